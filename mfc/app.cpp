@@ -1,0 +1,69 @@
+// The module: its object, its window classes, message boxes.
+#include <cstdint>
+#include <set>
+#include <string>
+
+#include "afxwin.h"
+
+extern "C" IMAGE_DOS_HEADER __ImageBase;
+
+namespace {
+
+CWinApp* g_theApp = nullptr;
+
+std::set<std::wstring>& RegisteredClasses() {
+    static std::set<std::wstring> names;
+    return names;
+}
+
+std::wstring ModuleName() {
+    wchar_t path[MAX_PATH] = {};
+    ::GetModuleFileNameW(AfxGetInstanceHandle(), path, MAX_PATH);
+    const std::wstring file = path;
+    const std::size_t start = file.find_last_of(L'\\') + 1;
+    return file.substr(start, file.find_last_of(L'.') - start);
+}
+
+}  // namespace
+
+CWinApp::CWinApp() { g_theApp = this; }
+
+CWinApp* AfxGetApp() { return g_theApp; }
+
+HINSTANCE AfxGetInstanceHandle() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
+
+int AfxMessageBox(LPCWSTR text, UINT type, UINT /*helpId*/) {
+    if (!(type & MB_ICONMASK)) type |= MB_ICONEXCLAMATION;
+    return ::MessageBoxW(::GetActiveWindow(), text, ModuleName().c_str(), type);
+}
+
+LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon) {
+    std::wstring name = L"Afx";
+    for (const auto part : {reinterpret_cast<std::uintptr_t>(AfxGetInstanceHandle()),
+                            static_cast<std::uintptr_t>(style), reinterpret_cast<std::uintptr_t>(cursor),
+                            reinterpret_cast<std::uintptr_t>(background), reinterpret_cast<std::uintptr_t>(icon)}) {
+        name += L':' + std::to_wstring(part);
+    }
+    const auto [entry, isNew] = RegisteredClasses().insert(name);
+    if (isNew) {
+        WNDCLASSW windowClass{};
+        windowClass.style = style;
+        windowClass.lpfnWndProc = ::DefWindowProcW;
+        windowClass.hInstance = AfxGetInstanceHandle();
+        windowClass.hIcon = icon;
+        windowClass.hCursor = cursor;
+        windowClass.hbrBackground = background;
+        windowClass.lpszClassName = entry->c_str();
+        ::RegisterClassW(&windowClass);
+    }
+    return entry->c_str();
+}
+
+namespace afx {
+
+void UnregisterClasses() {
+    for (const std::wstring& name : RegisteredClasses()) ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle());
+    RegisteredClasses().clear();
+}
+
+}  // namespace afx

@@ -1,0 +1,11 @@
+// The entry point of a library: its module object lives from load to unload.
+#include "afxwin.h"
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE /*instance*/, DWORD reason, LPVOID /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH) return AfxGetApp()->InitInstance();
+    if (reason == DLL_PROCESS_DETACH) {
+        AfxGetApp()->ExitInstance();
+        afx::UnregisterClasses();
+    }
+    return TRUE;
+}
