@@ -1,0 +1,115 @@
+#include "skin/drawing.h"
+
+#include "skin/fonts.h"
+
+CMemoryDC::CMemoryDC(HDC compatible, HBITMAP bitmap)
+    : m_dc(::CreateCompatibleDC(compatible)), m_previous(::SelectObject(m_dc, bitmap)) {}
+
+CMemoryDC::~CMemoryDC() {
+    ::SelectObject(m_dc, m_previous);
+    ::DeleteDC(m_dc);
+}
+
+CBufferedPaint::CBufferedPaint(HDC target, const CRect& rect)
+    : m_target(target),
+      m_rect(rect),
+      m_bitmap(::CreateCompatibleBitmap(target, rect.Width(), rect.Height())),
+      m_memory(target, m_bitmap.Get()) {}
+
+CBufferedPaint::~CBufferedPaint() {
+    ::BitBlt(m_target, m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), m_memory, 0, 0, SRCCOPY);
+}
+
+void CBufferedPaint::CopyFrom(HBITMAP background) const {
+    if (!background) return;
+    const CMemoryDC source(m_target, background);
+    ::BitBlt(m_memory, 0, 0, m_rect.Width(), m_rect.Height(), source, m_rect.left, m_rect.top, SRCCOPY);
+}
+
+void FillRectangle(HDC dc, const CRect& rect, COLORREF color) {
+    ::SetDCBrushColor(dc, color);
+    ::FillRect(dc, rect, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
+
+void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bottom) {
+    using GradientFillFunction = decltype(&::GradientFill);
+    // Never unloaded: the library needs it as long as it can draw.
+    static const GradientFillFunction gradientFill = [] {
+        const HMODULE library = ::LoadLibraryW(L"msimg32.dll");
+        const FARPROC found = library ? ::GetProcAddress(library, "GradientFill") : nullptr;
+        return reinterpret_cast<GradientFillFunction>(reinterpret_cast<void*>(found));
+    }();
+    if (rect.Width() <= 0 || rect.Height() <= 0) return;
+    const auto vertex = [](int x, int y, COLORREF color) {
+        const auto channel = [](int value) { return static_cast<COLOR16>(value << 8); };
+        return TRIVERTEX{x, y, channel(RedOf(color)), channel(GreenOf(color)), channel(BlueOf(color)), 0};
+    };
+    TRIVERTEX corners[] = {vertex(rect.left, rect.top, top), vertex(rect.right, rect.bottom, bottom)};
+    GRADIENT_RECT mesh{0, 1};
+    if (!gradientFill || !gradientFill(dc, corners, 2, &mesh, 1, GRADIENT_FILL_RECT_V)) FillRectangle(dc, rect, top);
+}
+
+void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle) {
+    const int split = rect.top + rect.Height() / 2;
+    FillVerticalGradient(dc, CRect(rect.left, rect.top, rect.right, split), edge, middle);
+    FillVerticalGradient(dc, CRect(rect.left, split, rect.right, rect.bottom), middle, edge);
+}
+
+void DrawLines(HDC dc, const POINT* points, int count, COLORREF color) {
+    const HGDIOBJ previous = ::SelectObject(dc, ::GetStockObject(DC_PEN));
+    ::SetDCPenColor(dc, color);
+    ::Polyline(dc, points, count);
+    ::SelectObject(dc, previous);
+}
+
+void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color) {
+    const LONG right = size.cx - 1;
+    const LONG bottom = size.cy - 1;
+    const POINT lines[][2] = {
+        {{1, 0}, {right, 0}}, {{right, 1}, {right, bottom}}, {{1, bottom}, {right, bottom}}, {{0, 1}, {0, bottom}}};
+    for (const auto& line : lines) DrawLines(dc, line, 2, color);
+}
+
+void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color) {
+    const int right = size.cx - 1;
+    const int bottom = size.cy - 1;
+    const Gdiplus::Point corners[] = {{1, 0},           {right - 1, 0}, {right, 1},      {right, bottom - 1},
+                                      {right - 1, bottom}, {1, bottom},    {0, bottom - 1}, {0, 1}};
+    const Gdiplus::Pen pen(OpaqueColor(color), 1.0F);
+    graphics.DrawPolygon(&pen, corners, static_cast<INT>(std::size(corners)));
+}
+
+CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
+    SetTextRenderingHint(Gdiplus::TextRenderingHintClearTypeGridFit);
+    SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+}
+
+void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
+                TextLayout layout, const Gdiplus::Color& color) {
+    Gdiplus::StringFormat format(layout == TextLayout::Wrapped ? 0 : Gdiplus::StringFormatFlagsNoWrap);
+    if (layout != TextLayout::Wrapped) format.SetLineAlignment(Gdiplus::StringAlignmentCenter);
+    if (layout == TextLayout::Centred) format.SetAlignment(Gdiplus::StringAlignmentCenter);
+    const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
+                              static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
+    graphics.DrawString(text, text.GetLength(), &font, area, &format, &SharedBrush(color));
+}
+
+void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
+                      COLORREF color, COLORREF halo) {
+    const auto drawAt = [&](int x, int y, COLORREF ink) {
+        graphics.DrawString(text, text.GetLength(), &font,
+                            Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
+                            &SharedBrush(OpaqueColor(ink)));
+    };
+    for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
+        drawAt(at.x + offset.x, at.y + offset.y, halo);
+    }
+    drawAt(at.x, at.y, color);
+}
+
+Gdiplus::SizeF MeasureText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font) {
+    Gdiplus::RectF bounds;
+    graphics.MeasureString(text, text.GetLength(), &font, Gdiplus::PointF(0, 0), &bounds);
+    return {bounds.Width, bounds.Height};
+}

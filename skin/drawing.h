@@ -1,0 +1,132 @@
+// What the controls draw with: owners of GDI handles, buffered painting, fills and frames, GDI+ text.
+#pragma once
+
+#include <afxwin.h>
+
+#include "skin/gdi_plus.h"
+#include "skin/palette.h"
+
+/// Owns one GDI object and deletes it.
+template <typename Handle>
+class CGdiHandle {
+public:
+    CGdiHandle() = default;
+    explicit CGdiHandle(Handle handle) : m_handle(handle) {}
+    CGdiHandle(CGdiHandle&& other) noexcept : m_handle(other.Release()) {}
+    CGdiHandle& operator=(CGdiHandle&& other) noexcept {
+        if (this != &other) Reset(other.Release());
+        return *this;
+    }
+    CGdiHandle(const CGdiHandle&) = delete;
+    CGdiHandle& operator=(const CGdiHandle&) = delete;
+    ~CGdiHandle() { Reset(); }
+
+    Handle Get() const { return m_handle; }
+    explicit operator bool() const { return m_handle != nullptr; }
+
+    void Reset(Handle handle = nullptr) {
+        if (m_handle) ::DeleteObject(m_handle);
+        m_handle = handle;
+    }
+
+    Handle Release() {
+        const Handle handle = m_handle;
+        m_handle = nullptr;
+        return handle;
+    }
+
+private:
+    Handle m_handle = nullptr;
+};
+
+using CBitmapHandle = CGdiHandle<HBITMAP>;
+using CFontHandle = CGdiHandle<HFONT>;
+using CRegionHandle = CGdiHandle<HRGN>;
+
+/// A memory device context with a bitmap selected into it; the bitmap stays the caller's.
+class CMemoryDC {
+public:
+    CMemoryDC(HDC compatible, HBITMAP bitmap);
+    ~CMemoryDC();
+    CMemoryDC(const CMemoryDC&) = delete;
+    CMemoryDC& operator=(const CMemoryDC&) = delete;
+
+    operator HDC() const { return m_dc; }
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_previous;
+};
+
+/// The device context of a window's client area, for drawing outside WM_PAINT.
+class CWindowDC {
+public:
+    explicit CWindowDC(HWND window) : m_window(window), m_dc(::GetDC(window)) {}
+    ~CWindowDC() { ::ReleaseDC(m_window, m_dc); }
+    CWindowDC(const CWindowDC&) = delete;
+    CWindowDC& operator=(const CWindowDC&) = delete;
+
+    operator HDC() const { return m_dc; }
+
+private:
+    HWND m_window;
+    HDC m_dc;
+};
+
+/// Draws a rectangle of a window off screen; the destructor copies it to the screen in one step.
+/// Coordinates inside start at (0, 0).
+class CBufferedPaint {
+public:
+    CBufferedPaint(HDC target, const CRect& rect);
+    ~CBufferedPaint();
+    CBufferedPaint(const CBufferedPaint&) = delete;
+    CBufferedPaint& operator=(const CBufferedPaint&) = delete;
+
+    HDC Dc() const { return m_memory; }
+    CSize Size() const { return m_rect.Size(); }
+    /// Copies the same rectangle out of a bitmap in the window's coordinates; a null bitmap copies nothing.
+    void CopyFrom(HBITMAP background) const;
+
+private:
+    HDC m_target;
+    CRect m_rect;
+    CBitmapHandle m_bitmap;
+    CMemoryDC m_memory;
+};
+
+void FillRectangle(HDC dc, const CRect& rect, COLORREF color);
+/// Fills with a gradient from top to bottom; plain in the first colour where the system has no GradientFill.
+void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bottom);
+/// The kit's button face: the first colour at top and bottom meets the second in the middle.
+void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle);
+/// Draws one-pixel lines through points with the current brush left alone; the last point is not drawn.
+void DrawLines(HDC dc, const POINT* points, int count, COLORREF color);
+/// A one-pixel frame around (0, 0, size) whose four corner pixels are left out.
+void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color);
+/// The outline of edit boxes and drop-down lists: anti-aliased, closed, with one-pixel cut corners.
+void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color);
+
+inline Gdiplus::Color OpaqueColor(COLORREF color) {
+    return Gdiplus::Color(static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)),
+                          static_cast<BYTE>(BlueOf(color)));
+}
+
+/// A GDI+ surface set up as the whole kit draws: anti-aliased, with grid-fitted ClearType text.
+class CTextGraphics : public Gdiplus::Graphics {
+public:
+    explicit CTextGraphics(HDC dc);
+};
+
+/// How a text lies in its rectangle.
+enum class TextLayout {
+    Wrapped,     ///< From the top left corner, wrapping at the width.
+    LeftMiddle,  ///< One line, left, vertically centred.
+    Centred,     ///< One line, centred both ways.
+};
+
+void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
+                TextLayout layout, const Gdiplus::Color& color);
+/// Draws a text at a point with a one-pixel halo around it.
+void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
+                      COLORREF color, COLORREF halo);
+Gdiplus::SizeF MeasureText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font);

@@ -1,0 +1,50 @@
+#include "skin/skin_button.h"
+
+#include "skin/numbers.h"
+
+void CSkinButton::SetPicture(LPCWSTR path) {
+    auto picture = std::make_unique<Gdiplus::Image>(path);
+    m_picture = picture->GetLastStatus() == Gdiplus::Ok ? std::move(picture) : nullptr;
+    Draw();
+}
+
+void CSkinButton::Paint(HDC dc, CSize size) {
+    if (m_framed) {
+        const CRect face(0, 0, size.cx, size.cy);
+        if (IsPressed()) {
+            FillVerticalGradient(dc, face, kBackgroundColor, kAccentColor);
+        } else {
+            FillFace(dc, face, kAccentColor, kBackgroundColor);
+        }
+        DrawOpenCornerFrame(dc, size, IsHovered() ? kAccentColor : Lighten(kAccentColor, 30));
+    }
+    CTextGraphics graphics(dc);
+    if (m_picture) PaintPicture(graphics, size);
+    if (!Text().IsEmpty()) PaintCaption(graphics, size);
+}
+
+void CSkinButton::PaintPicture(Gdiplus::Graphics& graphics, CSize size) const {
+    const int width = static_cast<int>(m_picture->GetWidth()) / 4;
+    const int height = static_cast<int>(m_picture->GetHeight());
+    const int frame = !IsEnabled() ? 3 : IsPressed() ? 2 : IsHovered() ? 1 : 0;
+    const int shift = IsPressed() ? 1 : 0;
+    const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);
+    graphics.DrawImage(m_picture.get(), place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+}
+
+void CSkinButton::PaintCaption(Gdiplus::Graphics& graphics, CSize size) const {
+    const bool pressedFace = IsPressed() && m_framed;
+    const bool hoverFace = IsHovered() && m_framed;
+    const COLORREF color = !IsEnabled()  ? DisabledColor()
+                           : pressedFace ? Darken(kOrangeColor, 30)
+                           : hoverFace   ? kOrangeColor
+                                         : kTextColor;
+    const COLORREF halo = IsPressed()   ? Lighten(kAccentColor, 40)
+                          : IsHovered() ? kAccentColor
+                                        : kBackgroundColor;
+    const Gdiplus::Font& font = MatchingFont(Font());
+    const Gdiplus::SizeF text = MeasureText(graphics, Text(), font);
+    const CPoint at(TruncateToInt((static_cast<double>(size.cx) - text.Width) * 0.5),
+                    TruncateToInt((static_cast<double>(size.cy) - text.Height) * 0.5 + 1.0));
+    DrawOutlinedText(graphics, Text(), font, at, color, halo);
+}

@@ -1,0 +1,70 @@
+// The frame that all skinned dialogs share: a borderless window with rounded corners, a painted title bar,
+// the close, Cancel and OK buttons, and the list of controls that painting and mouse messages go to.
+#pragma once
+
+#include <vector>
+
+#include <afxwin.h>
+
+#include "skin/drawing.h"
+#include "skin/skin_button.h"
+#include "skin/skin_control.h"
+
+class CSkinDialog : public CDialog {
+public:
+    CSkinDialog();
+
+    /// Adds a control to the list that the background, painting and mouse messages are handed to, in the order of
+    /// adding. The control must live as long as the dialog.
+    /// @param help  What the help panel says while the pointer is over the control; null for nothing. A literal.
+    void AddControl(CSkinControl& control, LPCWSTR help = nullptr);
+
+protected:
+    struct Entry {
+        CSkinControl* control;
+        LPCWSTR help;
+    };
+
+    // Both create controls once the window exists; a false makes the dialog's creation fail.
+    virtual bool CreateStandardControls();                ///< What all dialogs of a kind have.
+    virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
+    /// Places the controls; runs after every change of the size.
+    virtual void LayoutControls();
+    virtual void SetSkinBackground(HBITMAP background);
+    /// Draws the controls that touch an area.
+    virtual void PaintControls(const CRect& area);
+    virtual void RelayMouseEvent(UINT message, CPoint point);
+
+    BOOL OnInitDialog() override;
+    /// Sizes the window, puts it into the middle of its owner and sets its title.
+    void PlaceWindow(int width, int height, LPCWSTR title);
+    const std::vector<Entry>& Controls() const { return m_controls; }
+    CRect ClientRect() const;
+    /// Creates a push button with an empty rectangle and adds it.
+    bool AddButton(CSkinButton& button, LPCWSTR text, UINT id);
+
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
+    DECLARE_MESSAGE_MAP()
+
+    CSkinButton m_closeButton;
+    CSkinButton m_cancelButton;
+    CSkinButton m_okButton;
+
+private:
+    void CreateBackground();
+    void DrawTitle(HDC dc) const;
+    void Press(CPoint point);
+
+    CBitmapHandle m_background;
+    std::vector<Entry> m_controls;
+    bool m_trackingMouse = false;
+};

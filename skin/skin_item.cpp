@@ -1,0 +1,138 @@
+#include "skin/skin_item.h"
+
+namespace {
+
+// Shared by all items: while a press that began on the dialog is held, no other item starts to hover.
+bool g_buttonHeld = false;
+
+}  // namespace
+
+bool CSkinItem::Create(LPCWSTR text, CWnd* parent, const CRect& rect, UINT id) {
+    if (!parent || !parent->GetSafeHwnd()) return false;
+    m_text = text ? text : L"";
+    m_parent = parent->GetSafeHwnd();
+    m_id = id;
+    m_state = State::Normal;
+    m_rect = rect;
+    return true;
+}
+
+void CSkinItem::SetFont(HFONT font) { m_font = font; }
+
+void CSkinItem::SetText(LPCWSTR text) {
+    const CString next(text ? text : L"");
+    if (next == m_text) return;
+    m_text = next;
+    Draw();
+}
+
+void CSkinItem::SetEnabled(bool enabled) {
+    if (enabled == m_enabled) return;
+    m_enabled = enabled;
+    m_state = State::Normal;
+    Draw();
+}
+
+void CSkinItem::SetVisible(bool visible) {
+    if (visible == m_visible) return;
+    m_visible = visible;
+    if (::IsWindow(m_parent)) ::InvalidateRect(m_parent, m_rect, TRUE);
+}
+
+void CSkinItem::SetRect(const CRect& rect, bool redraw) {
+    if (rect == m_rect) return;
+    const CRect previous = m_rect;
+    m_rect = rect;
+    if (!redraw || !::IsWindow(m_parent)) return;
+    ::InvalidateRect(m_parent, previous, FALSE);
+    Draw();
+}
+
+void CSkinItem::Draw() {
+    if (!m_visible || m_rect.IsRectEmpty() || !::IsWindowVisible(m_parent)) return;
+    const CWindowDC screen(m_parent);
+    const CBufferedPaint buffer(screen, m_rect);
+    buffer.CopyFrom(m_background);
+    Paint(buffer.Dc(), buffer.Size());
+}
+
+void CSkinItem::SetState(State state) {
+    if (state == m_state) return;
+    m_state = state;
+    OnStateChanged();
+    Draw();
+}
+
+void CSkinItem::HandleMouse(UINT message, CPoint point) {
+    if (!m_enabled || !m_visible || !::IsWindow(m_parent)) return;
+    const bool inside = m_rect.PtInRect(point) != FALSE;
+    switch (message) {
+        case WM_MOUSELEAVE:
+            if (ParentHasCapture()) return;
+            g_buttonHeld = false;
+            SetState(State::Normal);
+            return;
+        case WM_MOUSEHOVER:
+            g_buttonHeld = false;
+            if (!inside) {
+                SetState(State::Normal);
+            } else if (m_state == State::Normal) {
+                SetState(State::Hover);
+            }
+            return;
+        case WM_MOUSEMOVE:
+            OnMouseMove(point);
+            break;
+        case WM_LBUTTONDOWN:
+            OnButtonDown(point);
+            break;
+        case WM_LBUTTONUP:
+            OnButtonUp(point);
+            break;
+        default:
+            return;
+    }
+    if (m_cursor && inside) ::SetCursor(m_cursor);
+}
+
+void CSkinItem::OnMouseMove(CPoint point) {
+    if (m_rect.PtInRect(point) && !g_buttonHeld) {
+        if (m_state == State::Normal) SetState(State::Hover);
+        return;
+    }
+    if (ParentHasCapture()) return;
+    CRect client;
+    ::GetClientRect(m_parent, client);
+    // A pressed item stays pressed while the pointer moves inside the dialog.
+    if (m_state == State::Pressed && client.PtInRect(point)) return;
+    SetState(State::Normal);
+}
+
+void CSkinItem::OnButtonDown(CPoint point) {
+    const bool inside = m_rect.PtInRect(point) != FALSE;
+    g_buttonHeld = true;
+    OnPress(inside);
+    if (!inside) return;
+    SetState(State::Pressed);
+    ::SetCapture(m_parent);
+}
+
+void CSkinItem::OnButtonUp(CPoint point) {
+    const bool wasPressed = m_state == State::Pressed;
+    if (wasPressed && ParentHasCapture()) ::ReleaseCapture();
+    g_buttonHeld = false;
+    if (!m_rect.PtInRect(point)) {
+        SetState(State::Normal);
+        return;
+    }
+    if (wasPressed) {
+        OnClick();
+        ::PostMessageW(m_parent, WM_COMMAND, MAKEWPARAM(m_id, 0), 0);
+    }
+    SetState(State::Hover);
+    // Every item looks again at where the pointer is.
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    ::ScreenToClient(m_parent, &cursor);
+    ::PostMessageW(m_parent, WM_MOUSEMOVE, 0, MAKELPARAM(cursor.x, cursor.y));
+}

@@ -1,0 +1,73 @@
+// The base of the controls that have no window: they live in a rectangle of their dialog, draw onto it
+// and get its mouse messages.
+#pragma once
+
+#include <afxwin.h>
+
+#include "skin/drawing.h"
+#include "skin/fonts.h"
+#include "skin/skin_control.h"
+
+class CSkinItem : public CSkinControl {
+public:
+    CSkinItem() = default;
+    CSkinItem(const CSkinItem&) = delete;
+    CSkinItem& operator=(const CSkinItem&) = delete;
+    virtual ~CSkinItem() = default;
+
+    /// Fails, and changes nothing, without a parent that has a window. A null text is an empty one.
+    virtual bool Create(LPCWSTR text, CWnd* parent, const CRect& rect, UINT id);
+    /// Borrows a font for as long as the item lives: one of the shared ones, usually.
+    virtual void SetFont(HFONT font);
+
+    void SetBackground(HBITMAP background) override { m_background = background; }
+    CRect Bounds() const override { return m_rect; }
+    /// Nothing happens for an item that is disabled or invisible or whose parent is gone.
+    void HandleMouse(UINT message, CPoint point) override;
+    /// Draws the item onto its parent. Nothing happens while either of them is not to be seen.
+    void Draw() override;
+
+    UINT Id() const { return m_id; }
+    const CString& Text() const { return m_text; }
+    void SetText(LPCWSTR text);
+    bool IsEnabled() const { return m_enabled; }
+    void SetEnabled(bool enabled);
+    bool IsVisible() const { return m_visible; }
+    void SetVisible(bool visible);
+    void SetRect(const CRect& rect, bool redraw = false);
+    /// The cursor to show after the item handled a move, a press or a release. Borrowed.
+    void SetCursor(HCURSOR cursor) { m_cursor = cursor; }
+
+protected:
+    enum class State { Normal, Hover, Pressed };
+
+    virtual void OnClick() {}  ///< A press and a release both fell on the item; the command follows.
+    virtual void OnPress(bool /*inside*/) {}
+    virtual void OnStateChanged() {}
+    /// Draws the item off screen; the background is there already.
+    virtual void Paint(HDC dc, CSize size) = 0;
+
+    HWND Parent() const { return m_parent; }
+    HFONT Font() const { return m_font ? m_font : ItemFont(); }
+    HBITMAP Background() const { return m_background; }
+    bool IsHovered() const { return m_state == State::Hover && m_enabled; }
+    bool IsPressed() const { return m_state == State::Pressed && m_enabled; }
+
+private:
+    void OnMouseMove(CPoint point);
+    void OnButtonDown(CPoint point);
+    void OnButtonUp(CPoint point);
+    void SetState(State state);
+    bool ParentHasCapture() const { return ::GetCapture() == m_parent; }
+
+    UINT m_id = 0;
+    State m_state = State::Normal;
+    HWND m_parent = nullptr;
+    CRect m_rect{0, 0, 0, 0};
+    bool m_enabled = true;
+    bool m_visible = true;
+    CString m_text;
+    HFONT m_font = nullptr;
+    HBITMAP m_background = nullptr;
+    HCURSOR m_cursor = nullptr;
+};

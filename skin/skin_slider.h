@@ -1,0 +1,67 @@
+// The horizontal slider. It proposes values to its dialog and never moves itself: the dialog decides and
+// sets the position.
+#pragma once
+
+#include <afxwin.h>
+
+#include "skin/skin_control.h"
+
+class CSkinSlider;
+
+/// Sent by a slider to its parent: WPARAM is the address of a SliderChangeInfo that lives during the call,
+/// LPARAM is 0.
+inline constexpr UINT WM_SKIN_SLIDER = WM_USER + 666;
+
+enum class SliderCode : int { Dragged = 0, TrackClicked = 3 };
+
+struct SliderChangeInfo {
+    CSkinSlider* sender;
+    SliderCode code;
+    double proposed;
+    int flag;  ///< Always 1.
+};
+
+class CSkinSlider : public CWnd, public CSkinControl {
+public:
+    BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
+    /// A maximum below the minimum becomes the minimum plus 1.
+    void SetMaximum(double maximum);
+    /// Raises a lower position along. The maximum is not looked at, so set that first.
+    void SetMinimum(double minimum);
+    /// Clamps to the range and redraws; a position that is less than 1e-5 away changes nothing.
+    void SetPosition(double position);
+    double Position() const { return m_position; }
+    void Enable(bool enable);
+
+    void SetBackground(HBITMAP background) override { m_background = background; }
+    CRect Bounds() const override;
+
+protected:
+    virtual void OnPositionChanged() {}
+
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }  // A fast press.
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* other);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    enum class State { Idle, OverThumb, Dragging };
+
+    void Paint(HDC target);
+    void Propose(SliderCode code, double value);
+    State StateAt(CPoint point) const;
+
+    State m_state = State::Idle;
+    int m_dragOffset = 0;  // From the pointer to the thumb's right edge.
+    HBITMAP m_background = nullptr;
+    double m_position = 0.0;
+    double m_maximum = 100.0;
+    double m_minimum = 0.0;
+    CRect m_thumb{0, 0, 0, 0};
+    CRect m_track{0, 0, 0, 0};
+};
