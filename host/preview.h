@@ -1,0 +1,13 @@
+// The host's preview while a dialog is open: what is said to the host at opening and at closing.
+#pragma once
+
+#include "effect_settings/media_host.h"
+#include "host/com_ptr.h"
+#include "host/processor_chain.h"
+
+/// Turns the preview of an effect toward a panel.
+void OpenPreview(IMediaHost& host, ChainKind chain, HWND panel);
+/// Stops the preview and gives the panel back.
+void ClosePreview(IMediaHost& host, ChainKind chain);
+/// The object of the processor that was just attached; null when the host does not give it.
+ComPtr<IUnknown> AttachedProcessor(IMediaHost& host, ChainKind chain);
