@@ -1,0 +1,148 @@
+#include "dialogs/base/effect_settings_dlg.h"
+
+#include "dialogs/base/help_panel.h"
+#include "entry/session.h"
+#include "host/preview.h"
+
+namespace {
+
+constexpr UINT kDefaultButtonId = 3;
+constexpr UINT kEnableId = 10;
+constexpr UINT_PTR kPreviewTimer = 1;
+constexpr UINT kPreviewDelayMs = 500;
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CEffectSettingsDlg, CSkinDialog)
+    ON_WM_DESTROY()
+    ON_WM_TIMER()
+    ON_COMMAND(kDefaultButtonId, OnSetAsDefault)
+    ON_COMMAND(kEnableId, OnEnableCommand)
+    ON_MESSAGE(WM_SKIN_SLIDER, OnSliderChange)
+END_MESSAGE_MAP()
+
+CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const EffectDialogOptions& options)
+    : m_info(info), m_options(options), m_moniker(MonikerOf(info)) {}
+
+bool CEffectSettingsDlg::CreateStandardControls() {
+    const LPCWSTR blackPanel = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW),
+                                                   static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), nullptr);
+    return CSkinDialog::CreateStandardControls() && AddButton(m_defaultButton, L"Set as default", kDefaultButtonId) &&
+           m_preview.Create(blackPanel, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, m_options.previewId);
+}
+
+bool CEffectSettingsDlg::CreateEnable(std::int32_t checked) {
+    if (!m_enable.Create(L"Enable", this, CRect(0, 0, 0, 0), kEnableId)) return false;
+    m_enable.SetChecked(checked != 0);
+    AddControl(m_enable, m_info.description);
+    return true;
+}
+
+void CEffectSettingsDlg::LayoutControls() {
+    CSkinDialog::LayoutControls();
+    const CRect client = ClientRect();
+    m_defaultButton.SetRect(CRect(10, client.bottom - 29, 140, client.bottom - 10));
+    m_preview.MoveWindow(1, 35, client.right - 3, 240);
+    m_enable.SetRect(At(10, 295, 70));
+}
+
+CRect CEffectSettingsDlg::HelpRectBelow(int top) const {
+    const CRect client = ClientRect();
+    return CRect(20, top, client.right - 20, client.bottom - 40);
+}
+
+BOOL CEffectSettingsDlg::OnInitDialog() {
+    CSkinDialog::OnInitDialog();
+    PlaceWindow(m_info.width, m_info.height, TitleOf(m_info));
+    if (m_options.firstSync == FirstSync::BeforeAttach) SyncControls();
+    if (!AttachFilter()) {
+        AfxMessageBox(m_info.chain == ChainKind::Video ? L"AddVideoProcessor Fialed" : L"AddAudioProcessor Fialed");
+        return FALSE;
+    }
+    if (m_options.firstSync == FirstSync::AfterAttach) SyncControls();
+    ApplyToFilter();
+    SetTimer(kPreviewTimer, kPreviewDelayMs, nullptr);
+    m_loading = false;
+    return TRUE;
+}
+
+bool CEffectSettingsDlg::AttachFilter() {
+    if (!g_Host) return false;
+    m_hostInformed = true;
+    OpenPreview(*g_Host, m_info.chain, m_preview.GetSafeHwnd());
+    const auto attach = m_info.chain == ChainKind::Video ? AttachVideoProcessor : AttachAudioProcessor;
+    if (!attach(&g_Host, m_moniker)) return false;
+    if (const ComPtr<IUnknown> processor = AttachedProcessor(*g_Host, m_info.chain)) ConnectFilter(*processor.Get());
+    return true;
+}
+
+void CEffectSettingsDlg::DetachFilter() {
+    if (m_hostInformed) {
+        ClosePreview(*g_Host, m_info.chain);
+        const auto detach = m_info.chain == ChainKind::Video ? DetachVideoProcessor : DetachAudioProcessor;
+        detach(&g_Host, m_moniker);
+    }
+    ReleaseFilter();
+}
+
+void CEffectSettingsDlg::OnDestroy() {
+    CSkinDialog::OnDestroy();
+    DetachFilter();
+}
+
+void CEffectSettingsDlg::OnTimer(UINT_PTR timer) {
+    if (timer == kPreviewTimer) {
+        KillTimer(kPreviewTimer);
+        if (g_Host) g_Host->RefreshPreview();
+    }
+    CSkinDialog::OnTimer(timer);
+}
+
+void CEffectSettingsDlg::SyncAndApply() {
+    SyncControls();
+    ApplyToFilter();
+}
+
+LRESULT CEffectSettingsDlg::OnSliderChange(WPARAM wParam, LPARAM) {
+    const auto* info = reinterpret_cast<const SliderChangeInfo*>(wParam);
+    if (!info) return 0;
+    if (info->code == SliderCode::Dragged || info->code == SliderCode::TrackClicked) {
+        info->sender->SetPosition(info->proposed);
+    }
+    ApplyToFilter();
+    return 0;
+}
+
+void CEffectSettingsDlg::OnOK() {
+    if (!Validate()) return;
+    SaveSettings();
+    CSkinDialog::OnOK();
+}
+
+void CEffectSettingsDlg::PaintControls(const CRect& area) {
+    CSkinDialog::PaintControls(area);
+    CRect touched;
+    if (touched.IntersectRect(m_helpRect, area)) PaintHelpPanel(CWindowDC(m_hWnd), m_helpRect, m_helpText);
+}
+
+BOOL CEffectSettingsDlg::PreTranslateMessage(MSG* message) {
+    if (message->message == WM_MOUSEMOVE) {
+        CPoint point(message->pt);
+        ScreenToClient(&point);
+        ShowHelpAt(point);
+    }
+    return CSkinDialog::PreTranslateMessage(message);
+}
+
+void CEffectSettingsDlg::ShowHelpAt(CPoint point) {
+    LPCWSTR help = L"";
+    for (const Entry& entry : Controls()) {
+        if (entry.help && entry.control->Bounds().PtInRect(point)) {
+            help = entry.help;
+            break;
+        }
+    }
+    if (m_helpText.CompareNoCase(help) == 0) return;
+    m_helpText = help;
+    PaintHelpPanel(CWindowDC(m_hWnd), m_helpRect, m_helpText);
+}

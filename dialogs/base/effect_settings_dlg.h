@@ -1,0 +1,83 @@
+// The base of all effect dialogs: the life of the filter link from opening to closing, the preview panel,
+// the help panel, "Enable" and "Set as default". CEffectDlg (effects/effect_dlg.h) adds the types.
+#pragma once
+
+#include <cstdint>
+
+#include <afxwin.h>
+
+#include "dialogs/base/effect_info.h"
+#include "skin/skin_check_box.h"
+#include "skin/skin_dialog.h"
+#include "skin/skin_slider.h"
+
+/// When the enable rules first run. What the user then does runs them in any case.
+enum class FirstSync { BeforeAttach, AfterAttach, OnFirstClick };
+
+/// In what the families of effects differ; what is not named is as most have it.
+struct EffectDialogOptions {
+    FirstSync firstSync = FirstSync::AfterAttach;
+    UINT previewId = 11;
+};
+
+class CEffectSettingsDlg : public CSkinDialog {
+protected:
+    CEffectSettingsDlg(const EffectInfo& info, const EffectDialogOptions& options);
+
+    // What a dialog states of its own: CreateControls and LayoutControls, then these.
+
+    virtual void SyncControls() {}              ///< The enable rules.
+    virtual void ApplyToFilter() {}             ///< One push of all values; does nothing without a filter.
+    virtual bool Validate() { return true; }    ///< Whether OK may save and close; tells the user when not.
+    virtual void SaveSettings() {}              ///< Writes the caller's record.
+    virtual void ResetToDefaults() {}           ///< "Set as default": back to the effect's defaults, and a push.
+    virtual void OnEnableClicked() { SyncAndApply(); }
+
+    virtual void ConnectFilter(IUnknown& processor) = 0;
+    virtual void ReleaseFilter() = 0;
+
+    /// Creates the check box that every effect has first, with the effect's description as its help.
+    bool CreateEnable(std::int32_t checked);
+    void SyncAndApply();
+    /// Set until the dialog is fully open; edits that are filled meanwhile push nothing.
+    bool IsLoading() const { return m_loading; }
+    const EffectInfo& Info() const { return m_info; }
+
+    /// A rectangle as tall as a row of controls, in client coordinates.
+    static CRect At(int x, int y, int width) { return CRect(x, y, x + width, y + kRowHeight); }
+    /// The help panel's place from a top edge down to the buttons.
+    CRect HelpRectBelow(int top) const;
+
+    void LayoutControls() override;
+    void PaintControls(const CRect& area) override;
+    bool CreateStandardControls() override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+    BOOL PreTranslateMessage(MSG* message) override;
+
+    afx_msg void OnDestroy();
+    afx_msg void OnTimer(UINT_PTR timer);
+    afx_msg void OnSetAsDefault() { ResetToDefaults(); }
+    afx_msg void OnEnableCommand() { OnEnableClicked(); }
+    afx_msg LRESULT OnSliderChange(WPARAM info, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+    CSkinCheckBox m_enable;
+    CRect m_helpRect{0, 0, 0, 0};  ///< An empty one shows no help.
+
+private:
+    static constexpr int kRowHeight = 20;
+
+    bool AttachFilter();
+    void DetachFilter();
+    void ShowHelpAt(CPoint point);
+
+    const EffectInfo& m_info;
+    const EffectDialogOptions m_options;
+    const CString m_moniker;
+    CWnd m_preview;
+    CSkinButton m_defaultButton;
+    CString m_helpText;
+    bool m_loading = true;
+    bool m_hostInformed = false;  // Whether the host knows of this dialog, so that closing has to tell it.
+};

@@ -1,0 +1,21 @@
+#include "dialogs/base/help_panel.h"
+
+#include "skin/drawing.h"
+#include "skin/fonts.h"
+
+namespace {
+
+constexpr float kTextEm = 13.0F;
+const Gdiplus::Color kHelpTextColor(255, 236, 143, 9);
+
+}  // namespace
+
+void PaintHelpPanel(HDC dc, const CRect& rect, const CString& text) {
+    if (rect.IsRectEmpty()) return;
+    const CRect panel(0, 0, rect.Width(), rect.Height());
+    const CBufferedPaint buffer(dc, rect);
+    FillRectangle(buffer.Dc(), panel, kBackgroundColor);
+    if (text.IsEmpty()) return;
+    CTextGraphics graphics(buffer.Dc());
+    DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), panel, TextLayout::Wrapped, kHelpTextColor);
+}
