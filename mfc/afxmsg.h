@@ -71,6 +71,13 @@ LRESULT Create(CWnd& window, WPARAM, LPARAM lParam) {
     return Call<Handler>(window, reinterpret_cast<LPCREATESTRUCTW>(lParam));
 }
 template <auto Handler>
+LRESULT Key(CWnd& window, WPARAM wParam, LPARAM lParam) {
+    return Call<Handler>(window, static_cast<UINT>(wParam), static_cast<UINT>(LOWORD(lParam)),
+                         static_cast<UINT>(HIWORD(lParam)));
+}
+template <auto Handler>
+LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam);
+template <auto Handler>
 LRESULT Erase(CWnd& window, WPARAM wParam, LPARAM);
 template <auto Handler>
 LRESULT OtherWindow(CWnd& window, WPARAM, LPARAM lParam);
@@ -116,4 +123,6 @@ protected:                                          \
 #define ON_WM_MOUSEMOVE() AFX_WM_ENTRY(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSELEAVE() AFX_WM_ENTRY(WM_MOUSELEAVE, Plain, OnMouseLeave)
 #define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, Timer, OnTimer)
+#define ON_WM_ACTIVATE() AFX_WM_ENTRY(WM_ACTIVATE, Activate, OnActivate)
+#define ON_WM_KEYDOWN() AFX_WM_ENTRY(WM_KEYDOWN, Key, OnKeyDown)
 #define ON_WM_CAPTURECHANGED() AFX_WM_ENTRY(WM_CAPTURECHANGED, OtherWindow, OnCaptureChanged)

@@ -98,6 +98,8 @@ protected:
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual void PostNcDestroy() {}
+    /// A message about this child window that its parent got and did not handle.
+    virtual BOOL OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*) { return FALSE; }
     /// The message that is being handled, on to the default procedure.
     LRESULT Default();
 
@@ -113,6 +115,8 @@ protected:
     afx_msg void OnMouseLeave() { Default(); }
     afx_msg void OnTimer(UINT_PTR) { Default(); }
     afx_msg void OnCaptureChanged(CWnd*) { Default(); }
+    afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
+    afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
 
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
@@ -130,6 +134,12 @@ template <auto Handler>
 LRESULT Erase(CWnd& window, WPARAM wParam, LPARAM) {
     CDC dc(reinterpret_cast<HDC>(wParam));
     return Call<Handler>(window, &dc);
+}
+template <auto Handler>
+LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam) {
+    return Call<Handler>(window, static_cast<UINT>(LOWORD(wParam)),
+                         CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)),
+                         static_cast<BOOL>(HIWORD(wParam)));
 }
 template <auto Handler>
 LRESULT OtherWindow(CWnd& window, WPARAM, LPARAM lParam) {
@@ -178,6 +188,36 @@ private:
     CWnd* m_parent = nullptr;
     int m_result = -1;
     bool m_running = false;
+};
+
+class CEdit : public CWnd {
+public:
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
+        return CWnd::Create(L"EDIT", L"", style, rect, parent, id);
+    }
+};
+
+class CListBox : public CWnd {
+public:
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
+        return CWnd::Create(L"LISTBOX", L"", style, rect, parent, id);
+    }
+    int AddString(LPCWSTR text) { return Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
+    int GetCount() const { return Ask(LB_GETCOUNT); }
+    int GetCurSel() const { return Ask(LB_GETCURSEL); }
+    int SetCurSel(int index) { return Ask(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+    void GetText(int index, CString& text) const;
+    UINT ItemFromPoint(CPoint point, BOOL& outside) const;
+
+protected:
+    virtual void DrawItem(LPDRAWITEMSTRUCT) {}
+    virtual void MeasureItem(LPMEASUREITEMSTRUCT) {}
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+private:
+    int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return static_cast<int>(SendMessage(message, wParam, lParam));
+    }
 };
 
 /// The one of a module registers itself.

@@ -172,6 +172,14 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
         return OnCommand(wParam, lParam);
     }
     const AFX_MSGMAP_ENTRY* entry = FindHandler(message, 0, 0);
+    if (!entry && (message == WM_DRAWITEM || message == WM_MEASUREITEM)) {
+        // Owner-drawn controls draw themselves.
+        CWnd* child = FromHandlePermanent(
+            message == WM_DRAWITEM
+                ? reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem
+                : ::GetDlgItem(m_hWnd, static_cast<int>(reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam)->CtlID)));
+        return child && child->OnChildNotify(message, wParam, lParam, result);
+    }
     if (!entry) return FALSE;
     *result = entry->dispatch(*this, wParam, lParam);
     return TRUE;

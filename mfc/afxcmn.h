@@ -1,0 +1,11 @@
+// The common controls' part of the framework.
+#pragma once
+
+#include "afxwin.h"
+
+#include <richedit.h>
+
+class CRichEditCtrl : public CWnd {
+public:
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+};

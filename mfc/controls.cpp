@@ -1,0 +1,71 @@
+// The system's controls, and its dialogs.
+#include "afxcmn.h"
+#include "afxdlgs.h"
+#include "afxwin.h"
+
+void CListBox::GetText(int index, CString& text) const {
+    const int length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(index));
+    text.Empty();
+    if (length == LB_ERR) return;
+    Ask(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.GetBuffer(length + 1)));
+    text.ReleaseBuffer();
+}
+
+UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const {
+    const LRESULT found = SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y));
+    outside = HIWORD(found);
+    return LOWORD(found);
+}
+
+BOOL CListBox::OnChildNotify(UINT message, WPARAM, LPARAM lParam, LRESULT* result) {
+    if (message == WM_DRAWITEM) {
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    } else {
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+    }
+    *result = TRUE;
+    return TRUE;
+}
+
+BOOL CRichEditCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
+    // Stays loaded: its window class is needed as long as the module is.
+    static const HMODULE library = ::LoadLibraryW(L"riched20.dll");
+    return library && CWnd::Create(RICHEDIT_CLASSW, L"", style, rect, parent, id);
+}
+
+CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags, LPCWSTR filter,
+                         CWnd* parent)
+    : m_open(open) {
+    ::lstrcpynW(m_path, fileName ? fileName : L"", MAX_PATH);
+    // The parts of the filter are separated by bars here and by nulls there.
+    m_filter = filter ? filter : L"";
+    for (wchar_t& character : m_filter) {
+        if (character == L'|') character = L'\0';
+    }
+    m_ofn.lStructSize = sizeof(m_ofn);
+    m_ofn.hwndOwner = parent ? parent->GetSafeHwnd() : ::GetActiveWindow();
+    m_ofn.lpstrFilter = m_filter.c_str();
+    m_ofn.lpstrFile = m_path;
+    m_ofn.nMaxFile = MAX_PATH;
+    m_ofn.lpstrDefExt = defaultExtension;
+    m_ofn.Flags = flags | OFN_EXPLORER;
+}
+
+INT_PTR CFileDialog::DoModal() {
+    return (m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn)) ? IDOK : IDCANCEL;
+}
+
+CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) {
+    m_cc.lStructSize = sizeof(m_cc);
+    m_cc.hwndOwner = parent ? parent->GetSafeHwnd() : ::GetActiveWindow();
+    m_cc.rgbResult = initial;
+    m_cc.lpCustColors = CustomColors();
+    m_cc.Flags = flags | CC_RGBINIT;
+}
+
+INT_PTR CColorDialog::DoModal() { return ::ChooseColorW(&m_cc) ? IDOK : IDCANCEL; }
+
+COLORREF* CColorDialog::CustomColors() {
+    static COLORREF colors[16] = {};
+    return colors;
+}
