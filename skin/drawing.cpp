@@ -75,8 +75,7 @@ void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF colo
     const int bottom = size.cy - 1;
     const Gdiplus::Point corners[] = {{1, 0},           {right - 1, 0}, {right, 1},      {right, bottom - 1},
                                       {right - 1, bottom}, {1, bottom},    {0, bottom - 1}, {0, 1}};
-    const Gdiplus::Pen pen(OpaqueColor(color), 1.0F);
-    graphics.DrawPolygon(&pen, corners, static_cast<INT>(std::size(corners)));
+    graphics.DrawPolygon(&SharedPen(OpaqueColor(color)), corners, static_cast<INT>(std::size(corners)));
 }
 
 CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
@@ -87,12 +86,9 @@ CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
 
 void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
                 TextLayout layout, const Gdiplus::Color& color) {
-    Gdiplus::StringFormat format(layout == TextLayout::Wrapped ? 0 : Gdiplus::StringFormatFlagsNoWrap);
-    if (layout != TextLayout::Wrapped) format.SetLineAlignment(Gdiplus::StringAlignmentCenter);
-    if (layout == TextLayout::Centred) format.SetAlignment(Gdiplus::StringAlignmentCenter);
     const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
                               static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
-    graphics.DrawString(text, text.GetLength(), &font, area, &format, &SharedBrush(color));
+    graphics.DrawString(text, text.GetLength(), &font, area, &FormatOf(layout), &SharedBrush(color));
 }
 
 void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
@@ -108,8 +104,9 @@ void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gd
     drawAt(at.x, at.y, color);
 }
 
-Gdiplus::SizeF MeasureText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font) {
+Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font,
+                           TextLayout layout) {
     Gdiplus::RectF bounds;
-    graphics.MeasureString(text, text.GetLength(), &font, Gdiplus::PointF(0, 0), &bounds);
+    graphics.MeasureString(text, text.GetLength(), &font, Gdiplus::PointF(0, 0), &FormatOf(layout), &bounds);
     return {bounds.Width, bounds.Height};
 }

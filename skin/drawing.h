@@ -122,6 +122,7 @@ enum class TextLayout {
     Wrapped,     ///< From the top left corner, wrapping at the width.
     LeftMiddle,  ///< One line, left, vertically centred.
     Centred,     ///< One line, centred both ways.
+    Tip,         ///< One line, centred both ways, its blanks counted.
 };
 
 void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
@@ -129,4 +130,5 @@ void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus:
 /// Draws a text at a point with a one-pixel halo around it.
 void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
                       COLORREF color, COLORREF halo);
-Gdiplus::SizeF MeasureText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font);
+Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font,
+                           TextLayout layout = TextLayout::Wrapped);

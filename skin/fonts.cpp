@@ -5,7 +5,6 @@
 #include <tuple>
 #include <vector>
 
-#include "skin/drawing.h"
 
 namespace {
 
@@ -42,6 +41,8 @@ struct SharedDrawing {
     std::map<FontKey, std::unique_ptr<Gdiplus::Font>> fonts;
     std::map<HFONT, std::unique_ptr<Gdiplus::Font>> matchingFonts;
     std::map<Gdiplus::ARGB, std::unique_ptr<Gdiplus::SolidBrush>> brushes;
+    std::map<Gdiplus::ARGB, std::unique_ptr<Gdiplus::Pen>> pens;
+    std::map<TextLayout, std::unique_ptr<Gdiplus::StringFormat>> formats;
 };
 
 std::unique_ptr<SharedDrawing> g_shared;
@@ -121,6 +122,31 @@ const Gdiplus::SolidBrush& SharedBrush(const Gdiplus::Color& color) {
     auto& brush = Shared().brushes[color.GetValue()];
     if (!brush) brush = std::make_unique<Gdiplus::SolidBrush>(color);
     return *brush;
+}
+
+const Gdiplus::Pen& SharedPen(const Gdiplus::Color& color) {
+    auto& pen = Shared().pens[color.GetValue()];
+    if (!pen) pen = std::make_unique<Gdiplus::Pen>(color, 1.0F);
+    return *pen;
+}
+
+const Gdiplus::StringFormat& FormatOf(TextLayout layout) {
+    auto& format = Shared().formats[layout];
+    if (format) return *format;
+    format = std::make_unique<Gdiplus::StringFormat>();
+    if (layout == TextLayout::Wrapped) return *format;
+    format->SetLineAlignment(Gdiplus::StringAlignmentCenter);
+    if (layout != TextLayout::LeftMiddle) format->SetAlignment(Gdiplus::StringAlignmentCenter);
+    if (layout == TextLayout::Tip) {
+        format->SetHotkeyPrefix(Gdiplus::HotkeyPrefixShow);
+        format->SetFormatFlags(Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoFitBlackBox |
+                               Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip);
+        format->SetTrimming(Gdiplus::StringTrimmingNone);
+    } else {
+        format->SetFormatFlags(Gdiplus::StringFormatFlagsNoWrap);
+        format->SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
+    }
+    return *format;
 }
 
 void ReleaseSharedDrawing() { g_shared.reset(); }

@@ -1,8 +1,9 @@
-// The fonts and brushes that all controls share: each is made once and kept until the library goes.
+// The fonts, brushes and text formats that all controls share: each is made once and kept until the library goes.
 #pragma once
 
 #include <afxwin.h>
 
+#include "skin/drawing.h"
 #include "skin/gdi_plus.h"
 
 HFONT ItemFont();   ///< Arial, height 16, width 6, bold: buttons, check boxes, edits.
@@ -18,6 +19,8 @@ const Gdiplus::Font& TextFont(LPCWSTR face, float emPixels, Gdiplus::FontStyle s
 /// The GDI+ font that matches a GDI font in height and weight.
 const Gdiplus::Font& MatchingFont(HFONT font);
 const Gdiplus::SolidBrush& SharedBrush(const Gdiplus::Color& color);
+const Gdiplus::Pen& SharedPen(const Gdiplus::Color& color);  ///< One pixel wide.
+const Gdiplus::StringFormat& FormatOf(TextLayout layout);
 
 /// Deletes them all; the next use makes them again. Must run before GDI+ is shut down.
 void ReleaseSharedDrawing();

@@ -27,7 +27,7 @@ void CSkinCheckBox::Paint(HDC dc, CSize size) {
                            : IsHovered() ? kOrangeColor
                                          : Darken(kTextColor, 30);
     DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm),
-               CRect(kCaptionLeft, 0, kCaptionLeft + size.cx, size.cy), TextLayout::LeftMiddle, OpaqueColor(color));
+               CRect(kCaptionLeft, 0, size.cx, size.cy), TextLayout::LeftMiddle, OpaqueColor(color));
 }
 
 void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int y) const {

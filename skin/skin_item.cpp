@@ -5,6 +5,8 @@ namespace {
 // Shared by all items: while a press that began on the dialog is held, no other item starts to hover.
 bool g_buttonHeld = false;
 
+constexpr int kTipDurationMs = 2000;
+
 }  // namespace
 
 bool CSkinItem::Create(LPCWSTR text, CWnd* parent, const CRect& rect, UINT id) {
@@ -30,12 +32,14 @@ void CSkinItem::SetEnabled(bool enabled) {
     if (enabled == m_enabled) return;
     m_enabled = enabled;
     m_state = State::Normal;
+    HideTip();
     Draw();
 }
 
 void CSkinItem::SetVisible(bool visible) {
     if (visible == m_visible) return;
     m_visible = visible;
+    HideTip();
     if (::IsWindow(m_parent)) ::InvalidateRect(m_parent, m_rect, TRUE);
 }
 
@@ -59,8 +63,26 @@ void CSkinItem::Draw() {
 void CSkinItem::SetState(State state) {
     if (state == m_state) return;
     m_state = state;
+    HideTip();
     OnStateChanged();
     Draw();
+}
+
+void CSkinItem::ShowTip() {
+    if (m_tipText.IsEmpty()) return;
+    if (!m_tip) {
+        auto tip = std::make_unique<CHintTip>();
+        if (!tip->Create()) return;
+        m_tip = std::move(tip);
+    }
+    if (m_tip->IsWindowVisible()) return;
+    CPoint anchor(m_rect.left + 2, m_rect.bottom + 10);
+    ::ClientToScreen(m_parent, &anchor);
+    m_tip->ShowTip(m_tipText, anchor.x, anchor.y, kTipDurationMs);
+}
+
+void CSkinItem::HideTip() {
+    if (m_tip) m_tip->HideTip();
 }
 
 void CSkinItem::HandleMouse(UINT message, CPoint point) {
@@ -78,6 +100,7 @@ void CSkinItem::HandleMouse(UINT message, CPoint point) {
                 SetState(State::Normal);
             } else if (m_state == State::Normal) {
                 SetState(State::Hover);
+                ShowTip();
             }
             return;
         case WM_MOUSEMOVE:
@@ -97,7 +120,10 @@ void CSkinItem::HandleMouse(UINT message, CPoint point) {
 
 void CSkinItem::OnMouseMove(CPoint point) {
     if (m_rect.PtInRect(point) && !g_buttonHeld) {
-        if (m_state == State::Normal) SetState(State::Hover);
+        if (m_state == State::Normal) {
+            SetState(State::Hover);
+            ShowTip();
+        }
         return;
     }
     if (ParentHasCapture()) return;
@@ -127,7 +153,7 @@ void CSkinItem::OnButtonUp(CPoint point) {
     }
     if (wasPressed) {
         OnClick();
-        ::PostMessageW(m_parent, WM_COMMAND, MAKEWPARAM(m_id, 0), 0);
+        if (PostsCommand()) ::PostMessageW(m_parent, WM_COMMAND, MAKEWPARAM(m_id, 0), 0);
     }
     SetState(State::Hover);
     // Every item looks again at where the pointer is.

@@ -2,10 +2,13 @@
 // and get its mouse messages.
 #pragma once
 
+#include <memory>
+
 #include <afxwin.h>
 
 #include "skin/drawing.h"
 #include "skin/fonts.h"
+#include "skin/hint_tip.h"
 #include "skin/skin_control.h"
 
 class CSkinItem : public CSkinControl {
@@ -29,12 +32,14 @@ public:
 
     UINT Id() const { return m_id; }
     const CString& Text() const { return m_text; }
-    void SetText(LPCWSTR text);
+    virtual void SetText(LPCWSTR text);
     bool IsEnabled() const { return m_enabled; }
-    void SetEnabled(bool enabled);
+    virtual void SetEnabled(bool enabled);
     bool IsVisible() const { return m_visible; }
-    void SetVisible(bool visible);
-    void SetRect(const CRect& rect, bool redraw = false);
+    virtual void SetVisible(bool visible);
+    virtual void SetRect(const CRect& rect, bool redraw = false);
+    /// Shown in a pop-up for two seconds when the pointer comes over the item; an empty text shows none.
+    void SetTipText(LPCWSTR text) { m_tipText = text; }
     /// The cursor to show after the item handled a move, a press or a release. Borrowed.
     void SetCursor(HCURSOR cursor) { m_cursor = cursor; }
 
@@ -44,9 +49,11 @@ protected:
     virtual void OnClick() {}  ///< A press and a release both fell on the item; the command follows.
     virtual void OnPress(bool /*inside*/) {}
     virtual void OnStateChanged() {}
+    virtual bool PostsCommand() const { return true; }
     /// Draws the item off screen; the background is there already.
     virtual void Paint(HDC dc, CSize size) = 0;
 
+    void SetState(State state);
     HWND Parent() const { return m_parent; }
     HFONT Font() const { return m_font ? m_font : ItemFont(); }
     HBITMAP Background() const { return m_background; }
@@ -57,7 +64,8 @@ private:
     void OnMouseMove(CPoint point);
     void OnButtonDown(CPoint point);
     void OnButtonUp(CPoint point);
-    void SetState(State state);
+    void ShowTip();
+    void HideTip();
     bool ParentHasCapture() const { return ::GetCapture() == m_parent; }
 
     UINT m_id = 0;
@@ -70,4 +78,6 @@ private:
     HFONT m_font = nullptr;
     HBITMAP m_background = nullptr;
     HCURSOR m_cursor = nullptr;
+    CString m_tipText;
+    std::unique_ptr<CHintTip> m_tip;  // Made when it is first shown.
 };

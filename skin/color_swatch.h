@@ -1,0 +1,16 @@
+// A sample of a colour.
+#pragma once
+
+#include "skin/skin_item.h"
+
+class CColorSwatch : public CSkinItem {
+public:
+    COLORREF Color() const { return m_color; }
+    void SetColor(COLORREF color);  ///< Redraws only when the colour changes.
+
+protected:
+    void Paint(HDC dc, CSize size) override;
+
+private:
+    COLORREF m_color = 0;
+};

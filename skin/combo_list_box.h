@@ -1,0 +1,85 @@
+// The drop-down choice: a framed item with the chosen text, and a pop-up list to choose from.
+#pragma once
+
+#include "skin/skin_item.h"
+
+class CVelComboListBox;
+
+/// Posted to the parent after a pick: WPARAM is the CVelComboListBox's address, LPARAM is 0.
+inline constexpr UINT WM_SKIN_COMBO_SELECT = WM_USER + 598;
+
+/// The rows. The highlight follows the pointer; a release, or Enter, picks.
+class CComboDropList : public CListBox {
+public:
+    explicit CComboDropList(CVelComboListBox& combo) : m_combo(combo) {}
+
+protected:
+    void DrawItem(LPDRAWITEMSTRUCT item) override;
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override;
+
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Pick(int row);
+
+    CVelComboListBox& m_combo;
+};
+
+/// The pop-up that holds the list.
+class CComboDropWnd : public CWnd {
+public:
+    explicit CComboDropWnd(CVelComboListBox& combo) : m_list(combo), m_combo(combo) {}
+    bool Create(HWND owner);
+    CComboDropList& List() { return m_list; }
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CComboDropList m_list;
+    CVelComboListBox& m_combo;
+};
+
+class CVelComboListBox : public CSkinItem {
+public:
+    bool Create(CWnd* parent, const CRect& rect, UINT id);
+
+    void AddString(LPCWSTR text);
+    /// The row whose text is shown, -1 when none is. The highlight in the open list does not count.
+    int CurrentIndex() const;
+    /// Shows a row's text; without such a row, none.
+    void SetCurrentIndex(int row);
+
+    void SetRowHeight(int pixels) { m_rowHeight = pixels; }
+    int RowHeight() const { return m_rowHeight; }
+    void SetMaxListHeight(int pixels) { m_maxListHeight = pixels; }
+    void ShowDropDown(bool show);
+    bool IsDropped() const;
+
+    void SetEnabled(bool enabled) override;
+    void SetVisible(bool visible) override;
+
+    // Called by the list.
+    void OnPicked(LPCWSTR text);
+    void OnDeactivated();
+
+protected:
+    void OnPress(bool inside) override;
+    bool PostsCommand() const override { return false; }
+    void Paint(HDC dc, CSize size) override;
+
+private:
+    CRect DropRect();
+
+    CComboDropWnd m_drop{*this};
+    int m_rowHeight = 18;
+    int m_maxListHeight = 180;
+    bool m_pressClosedIt = false;  // The press that took the activation away from the list has to arrive yet.
+};

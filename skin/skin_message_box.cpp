@@ -1,0 +1,88 @@
+#include "skin/skin_message_box.h"
+
+#include <afxdlgs.h>
+
+#include "skin/skin_folder.h"
+
+namespace {
+
+constexpr int kWidth = 430;
+constexpr int kHeight = 150;
+constexpr UINT kTextId = 99;
+constexpr UINT kSaveInfoId = 256;
+constexpr UINT kGetHelpId = 257;
+constexpr int kTextMargin = 8;
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CSkinMessageBox, CSkinDialog)
+    ON_COMMAND(IDYES, OnYes)
+    ON_COMMAND(IDNO, OnNo)
+    ON_COMMAND(kSaveInfoId, OnSaveInfo)
+END_MESSAGE_MAP()
+
+CSkinMessageBox::CSkinMessageBox(LPCWSTR title, LPCWSTR text, MessageButtons buttons, bool extras)
+    : m_title(title ? title : L"Message"), m_message(text ? text : L""), m_buttons(buttons), m_extras(extras) {}
+
+bool CSkinMessageBox::CreateControls() {
+    constexpr DWORD kTextStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_READONLY;
+    if (!m_text.Create(kTextStyle, CRect(0, 0, 0, 0), this, kTextId) || !AddButton(m_yesButton, L"Yes", IDYES) ||
+        !AddButton(m_noButton, L"No", IDNO)) {
+        return false;
+    }
+    if (m_extras && (!AddButton(m_saveInfoButton, L"Save info", kSaveInfoId) ||
+                     !AddButton(m_getHelpButton, L"Get Help", kGetHelpId))) {
+        return false;
+    }
+    m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(ItemFont()), FALSE);
+    m_text.SendMessage(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(kBackgroundColor));
+    const bool asks = m_buttons == MessageButtons::YesNo;
+    m_cancelButton.SetVisible(false);
+    m_okButton.SetVisible(m_buttons == MessageButtons::Answer);
+    m_yesButton.SetVisible(asks);
+    m_noButton.SetVisible(asks);
+    return true;
+}
+
+void CSkinMessageBox::LayoutControls() {
+    CSkinDialog::LayoutControls();
+    const CRect client = ClientRect();
+    const int top = client.bottom - 29;
+    const auto place = [top](CSkinButton& button, int x, int width) {
+        button.SetRect(CRect(x, top, x + width, top + 19));
+    };
+    place(m_saveInfoButton, 10, 130);
+    place(m_getHelpButton, 150, 130);
+    place(m_yesButton, client.right - 150, 65);
+    place(m_noButton, client.right - 75, 65);
+    m_text.MoveWindow(1, 35, client.right - 3, client.bottom - 71);
+}
+
+BOOL CSkinMessageBox::OnInitDialog() {
+    CSkinDialog::OnInitDialog();
+    PlaceWindow(kWidth, kHeight, m_title);
+    ::SetWindowPos(m_hWnd, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+
+    CRect textArea;
+    m_text.GetClientRect(textArea);
+    textArea.DeflateRect(kTextMargin, kTextMargin);
+    m_text.SendMessage(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&textArea));
+    CHARFORMATW format{};
+    format.cbSize = sizeof(format);
+    format.dwMask = CFM_COLOR;
+    format.crTextColor = kTextColor;
+    m_text.SetWindowText(m_message);
+    m_text.SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+    // The text starts unselected: a click into it drops the selection.
+    m_text.SendMessage(EM_GETBIDIOPTIONS);
+    m_text.PostMessage(WM_LBUTTONDOWN);
+    m_text.PostMessage(WM_LBUTTONUP);
+    return TRUE;
+}
+
+void CSkinMessageBox::OnSaveInfo() {
+    CFileDialog dialog(FALSE, nullptr, L"VelMediaInfo.txt", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, L"(*.txt)|*.txt||",
+                       this);
+    if (dialog.DoModal() != IDOK) return;
+    ::CopyFileW(SkinFolder() + L"report\\loadfilefailed.txt", dialog.GetPathName(), FALSE);
+}

@@ -1,0 +1,37 @@
+// The kit's own message box: a title, a text that scrolls, and one answer or "Yes" and "No".
+#pragma once
+
+#include <afxcmn.h>
+
+#include "skin/skin_dialog.h"
+
+enum class MessageButtons : int { Answer = 1, YesNo = 4 };
+
+class CSkinMessageBox : public CSkinDialog {
+public:
+    /// @param title   Null for "Message". Both texts are borrowed until DoModal returns; the text may be null.
+    /// @param extras  Also offers "Save info" and "Get Help".
+    /// DoModal gives IDYES or IDNO, or IDOK after the answer and IDCANCEL after the close button.
+    CSkinMessageBox(LPCWSTR title, LPCWSTR text, MessageButtons buttons = MessageButtons::Answer, bool extras = false);
+
+protected:
+    bool CreateControls() override;
+    void LayoutControls() override;
+    BOOL OnInitDialog() override;
+
+    afx_msg void OnYes() { EndDialog(IDYES); }
+    afx_msg void OnNo() { EndDialog(IDNO); }
+    afx_msg void OnSaveInfo();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    LPCWSTR m_title;
+    LPCWSTR m_message;
+    MessageButtons m_buttons;
+    bool m_extras;
+    CRichEditCtrl m_text;
+    CSkinButton m_yesButton;
+    CSkinButton m_noButton;
+    CSkinButton m_saveInfoButton;
+    CSkinButton m_getHelpButton;
+};
