@@ -1,0 +1,31 @@
+// What the demo host plays: a generated scene, or a picture from a file.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+/// A picture, top row first, one 0x00RRGGBB word per pixel.
+struct Frame {
+    Frame() = default;
+    Frame(int w, int h) : width(w), height(h), pixels(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)) {}
+
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;
+};
+
+class IClip {
+public:
+    virtual ~IClip() = default;
+    virtual SIZE VideoSize() const = 0;
+    /// The frame at a time from the clip's start; the clip plays in a loop.
+    virtual const Frame& FrameAt(unsigned milliseconds) = 0;
+};
+
+std::unique_ptr<IClip> MakeSceneClip();
+/// Any picture that GDI+ reads; an animated GIF plays. Null when the file can't be read.
+std::unique_ptr<IClip> LoadClip(const std::wstring& file);
