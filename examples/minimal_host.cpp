@@ -9,8 +9,7 @@ IMediaHost* CreatePlayer() { return nullptr; }  // Your player object; null open
 int main() {
     IMediaHost* player = CreatePlayer();
     GammaCorrectionSettings gamma{.enabled = 1, .value = 100};
-    const std::int32_t result =
-        ShowSettingsDialog(&player, EffectId::GammaCorrection, 640, 480, 640, 480, &gamma);
+    const std::int32_t result = ShowSettingsDialog(&player, EffectId::GammaCorrection, 640, 480, 640, 480, &gamma);
     if (result == kSettingsAccepted) {
         std::printf("gamma factor %d, %s\n", gamma.value, gamma.enabled ? "on" : "off");
     } else {
