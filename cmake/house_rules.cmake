@@ -1,0 +1,28 @@
+# What all of our own targets are compiled with. GoogleTest is built without it.
+add_library(house_rules INTERFACE)
+target_include_directories(house_rules INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/include)
+target_compile_definitions(house_rules INTERFACE UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0601)
+if(MSVC)
+    target_compile_options(house_rules INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/W4 /permissive- /utf-8
+                           /external:anglebrackets /external:W0>)
+else()
+    # COM interfaces have no virtual destructor on purpose, so -Wnon-virtual-dtor is left out.
+    target_compile_options(house_rules INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wconversion -Wshadow
+                           -Wold-style-cast -Wsuggest-override
+                           -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
+    target_link_options(house_rules INTERFACE -static)
+endif()
+
+# A library of our own sources; the kind is STATIC or OBJECT.
+function(effect_settings_library name kind)
+    add_library(${name} ${kind} ${ARGN})
+    target_link_libraries(${name} PUBLIC house_rules)
+    set_target_properties(${name} PROPERTIES COMPILE_WARNING_AS_ERROR ON)
+endfunction()
+
+# A console program of our own sources.
+function(effect_settings_program name)
+    add_executable(${name} ${ARGN})
+    target_link_libraries(${name} PRIVATE house_rules)
+    set_target_properties(${name} PROPERTIES COMPILE_WARNING_AS_ERROR ON)
+endfunction()

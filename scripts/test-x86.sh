@@ -1,0 +1,36 @@
+# Sourced by ./test --x86: makes a 32-bit Debian with Wine once and mounts what its programs need.
+# Debian's 64-bit Wine cannot run 32-bit programs.
+x86_root=$root/build/x86-root
+((EUID == 0)) || {
+    echo "./test --x86 has to run as root: it mounts file systems." >&2
+    exit 1
+}
+# In a mount namespace of its own, nothing stays mounted, and deleting build/ never reaches into the mounts.
+if [[ ! ${EFFECT_SETTINGS_UNSHARED:-} ]]; then
+    export EFFECT_SETTINGS_UNSHARED=1
+    exec unshare --mount "$root/test" --x86 "$@"
+fi
+
+if [[ ! -f $x86_root/.ready ]]; then
+    install_packages debootstrap
+    say "Making a 32-bit Debian in build/x86-root (log: build/x86-root.log)"
+    rm -rf --one-file-system "$x86_root"
+    mirror=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' 'Codename: bookworm' | head -n 1)
+    debootstrap --variant=minbase --arch=i386 --include=wine32,wine,fonts-liberation bookworm "$x86_root" \
+        ${mirror:+"$mirror"} >build/x86-root.log 2>&1 || {
+        tail -n 20 build/x86-root.log >&2
+        exit 1
+    }
+fi
+mkdir -p "$x86_root$root/build/x86/bin"
+mount -t proc proc "$x86_root/proc"
+mount --bind /dev "$x86_root/dev"
+mount --bind "$root/build/x86/bin" "$x86_root$root/build/x86/bin"
+if [[ ! -f $x86_root/.ready ]]; then
+    say "Making its Wine prefix"
+    (start_display && set_up_prefix scripts/run-wine --x86) >>build/x86-root.log 2>&1 </dev/null || {
+        tail -n 20 build/x86-root.log >&2
+        exit 1
+    }
+    touch "$x86_root/.ready"
+fi
