@@ -1,0 +1,192 @@
+// What hosts and filters see of the library: slots, structures, ids, results.
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+#include "support/dialog_driver.h"
+#include "support/recording_host.h"
+
+namespace {
+
+// --- slots: a function table whose every entry tells its own number ---
+
+int g_calledSlot = -1;
+std::size_t g_argumentSum = 0;
+
+template <int Slot>
+HRESULT STDMETHODCALLTYPE NoArgument(void*) {
+    g_calledSlot = Slot;
+    return S_OK;
+}
+template <int Slot>
+HRESULT STDMETHODCALLTYPE OneArgument(void*, std::size_t a) {
+    g_calledSlot = Slot;
+    g_argumentSum = a;
+    return S_OK;
+}
+template <int Slot>
+HRESULT STDMETHODCALLTYPE TwoArguments(void*, std::size_t a, std::size_t b) {
+    g_calledSlot = Slot;
+    g_argumentSum = a + b;
+    return S_OK;
+}
+template <int Slot>
+HRESULT STDMETHODCALLTYPE ByValue(void*, GammaParams params) {
+    g_calledSlot = Slot;
+    g_argumentSum =
+        static_cast<std::size_t>(params.value * 1000 + params.enabled * 100 + params.reserved1 * 10 + params.reserved2);
+    return S_OK;
+}
+
+template <int... Slots>
+struct NumberedTables {
+    static inline void* none[] = {reinterpret_cast<void*>(&NoArgument<Slots>)...};
+    static inline void* one[] = {reinterpret_cast<void*>(&OneArgument<Slots>)...};
+    static inline void* two[] = {reinterpret_cast<void*>(&TwoArguments<Slots>)...};
+    static inline void* gamma[] = {reinterpret_cast<void*>(&ByValue<Slots>)...};
+};
+template <int... Slots>
+NumberedTables<Slots...> NumberedUpTo(std::integer_sequence<int, Slots...>);
+using Tables = decltype(NumberedUpTo(std::make_integer_sequence<int, 100>{}));
+
+template <typename Interface>
+struct RawObject {
+    void** table;
+    Interface* operator->() { return reinterpret_cast<Interface*>(this); }
+};
+
+TEST(Contract, EachOperationLiesAtItsSlot) {
+    RawObject<IMediaHost> none{Tables::none};
+    RawObject<IMediaHost> one{Tables::one};
+    RawObject<IMediaHost> two{Tables::two};
+    RawObject<IProcessorList> listOne{Tables::one};
+    RawObject<IProcessorList> listTwo{Tables::two};
+    RawObject<IEffectGammaCorrection> gamma{Tables::gamma};
+    IUnknown* object = nullptr;
+    IProcessorList* list = nullptr;
+    LONG index = 0;
+    const struct {
+        const char* name;
+        int slot;
+        std::function<void()> call;
+    } rows[] = {
+        {"RefreshPreview", 9, [&] { none->RefreshPreview(); }},
+        {"StopPreview", 11, [&] { none->StopPreview(); }},
+        {"SetPreviewOption", 15, [&] { one->SetPreviewOption(0); }},
+        {"SetPreviewWindow", 23, [&] { one->SetPreviewWindow(0); }},
+        {"EnableVideoPreview", 28, [&] { one->EnableVideoPreview(0); }},
+        {"SetPreviewRange", 38, [&] { two->SetPreviewRange(0, 0); }},
+        {"SetPreviewMode", 42, [&] { one->SetPreviewMode(0); }},
+        {"GetAudioProcessors", 71, [&] { one->GetAudioProcessors(&list); }},
+        {"GetVideoProcessors", 72, [&] { one->GetVideoProcessors(&list); }},
+        {"GetActiveAudioProcessors", 73, [&] { one->GetActiveAudioProcessors(&list); }},
+        {"GetActiveVideoProcessors", 74, [&] { one->GetActiveVideoProcessors(&list); }},
+        {"ResetPreview", 84, [&] { none->ResetPreview(); }},
+        {"GetProcessorObject", 88, [&] { two->GetProcessorObject(0x200, &object); }},
+        {"GetItem", 8, [&] { listTwo->GetItem(0, &object); }},
+        {"FindByMoniker", 10, [&] { listTwo->FindByMoniker(nullptr, &index); }},
+        {"RemoveAt", 12, [&] { listOne->RemoveAt(0); }},
+        {"Add", 13, [&] { listTwo->Add(nullptr, 0); }},
+        {"SetGammaParams", 6,
+         [&] {
+             gamma->SetGammaParams({7, 6, 5, 4});
+         }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        g_calledSlot = -1;
+        row.call();
+        EXPECT_EQ(g_calledSlot, row.slot);
+    }
+    EXPECT_EQ(g_argumentSum, 7654U) << "a structure arrives by value, field by field";
+}
+
+TEST(Contract, StructuresAreLaidOutAsHostsAndFiltersKnowThem) {
+    EXPECT_EQ(sizeof(GammaCorrectionSettings), 8U);
+    EXPECT_EQ(offsetof(GammaCorrectionSettings, value), 4U);
+    EXPECT_EQ(sizeof(GammaParams), 16U);
+    EXPECT_EQ(offsetof(GammaParams, enabled), 4U);
+}
+
+// --- the thirty effects, by what their dialogs show and ask for ---
+
+constexpr wchar_t kVideo[] = L"@device:sw:{E526D606-22E7-494C-B81E-AC0A94BFE603}\\{";
+constexpr wchar_t kAudio[] = L"@device:sw:{5FFE757A-509A-477E-A1F1-68812010A6DD}\\{";
+constexpr wchar_t kTail[] = L"-38C5-11D5-91F6-00104BDB8FF9}";
+
+TEST(Contract, EveryEffectHasItsTitleSizeAndMoniker) {
+    const struct {
+        int id;
+        const wchar_t* title;
+        int width;
+        int height;
+        const wchar_t* filter;
+    } rows[] = {
+        {1, L"Auto Contrast Setting", 500, 420, L"E2B7DD0E"},
+        {2, L"Auto Intensity Setting", 500, 430, L"E2B7DD13"},
+        {3, L"Auto Level Setting", 500, 430, L"E2B7DD09"},
+        {4, L"Brightness Settings", 560, 500, L"E2B7DD1D"},
+        {5, L"Color Settings(720x576)", 500, 630, L"E2B7DB10"},
+        {6, L"Deblocking Settings", 500, 580, L"E2B7DBF1"},
+        {7, L"Edge Enhance Settings", 500, 460, L"E2B7DBEB"},
+        {8, L"Aging Settings(720x576)", 800, 630, L"E2B7DC2A"},
+        {9, L"Bump Map Settings(720x576)", 500, 680, L"E2B7DC42"},
+        {10, L"Dizzy Settings(720x576)", 500, 585, L"E2B7DC32"},
+        {11, L"Fire Settings", 560, 645, L"E2B7DBFF"},
+        {12, L"Glass Tile Settings(720x576)", 500, 560, L"E2B7DC36"},
+        {13, L"Hologram Settings", 560, 590, L"E2B7DC03"},
+        {14, L"Lens Settings(720x576)", 500, 540, L"E2B7DC3A"},
+        {15, L"Lightning Settings", 560, 500, L"E2B7DC17"},
+        {16, L"Maze Settings(720x576)", 500, 540, L"E2B7DC3E"},
+        {17, L"Motion Blur Settings", 560, 500, L"E2B7DC0F"},
+        {18, L"Motion Emboss Settings", 560, 620, L"E2B7DC1B"},
+        {19, L"Motion Mosaic Settings", 560, 540, L"E2B7DC0B"},
+        {20, L"Motion Scan Settings(720x576)", 500, 540, L"E2B7DBF7"},
+        {21, L"Particles Settings", 500, 460, L"E2B7DC07"},
+        {22, L"Rain Settings(720x576)", 500, 560, L"E2B7DC2E"},
+        {23, L"Streak Settings", 500, 400, L"E2B7DBFB"},
+        {24, L"Wave Settings", 560, 470, L"E2B7DC13"},
+        {25, L"Emboss Settings(720x576)", 500, 600, L"E2B7DB17"},
+        {26, L"Gamma Correction Settings", 500, 460, L"E2B7DB14"},
+        {27, L"Mosaic Settings(720x576)", 500, 520, L"E2B7DB28"},
+        {28, L"Unsharp Mask Settings", 560, 500, L"E2B7DE21"},
+        {29, L"Video Rotation Settings", 500, 500, L"E2B7DE1C"},
+        {30, L"Audio Chorus Settings", 500, 680, L"E2B7DB38"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.id);
+        const auto effect = static_cast<EffectId>(row.id);
+        RecordingHost host(effect);
+        IMediaHost* pointer = &host;
+        std::int32_t record[32] = {};
+        RunDialog([&] { ShowSettingsDialog(&pointer, effect, 720, 576, 360, 288, record); },
+                  [&](DialogDriver& dialog) {
+                      EXPECT_EQ(dialog.Title(), row.title);
+                      EXPECT_EQ(dialog.ClientRect().right, row.width);
+                      EXPECT_EQ(dialog.ClientRect().bottom, row.height);
+                      EXPECT_EQ(host.PreviewWindow(), dialog.Child(row.id == 30 ? 21 : 11));
+                      const RECT panel = dialog.ClientRect(host.PreviewWindow());
+                      EXPECT_EQ(panel.right, row.width - 3);
+                      EXPECT_EQ(panel.bottom, 240);
+                  });
+        EXPECT_EQ(host.LastMoniker(), std::wstring(row.id == 30 ? kAudio : kVideo) + row.filter + kTail);
+        EXPECT_EQ(host.LastMoniker().size(), 88U);
+        EXPECT_EQ(host.OpenReferences(), 0U);
+    }
+}
+
+TEST(Contract, WhatCannotBeShownGivesZeroAndTouchesNothing) {
+    RecordingHost host(EffectId::GammaCorrection);
+    IMediaHost* pointer = &host;
+    GammaCorrectionSettings record{1, 100};
+    for (const int id : {0, 31, -1, 0x7FFFFFFF}) {
+        EXPECT_EQ(ShowSettingsDialog(&pointer, static_cast<EffectId>(id), 640, 480, 640, 480, &record), 0) << id;
+    }
+    EXPECT_EQ(ShowSettingsDialog(&pointer, EffectId::GammaCorrection, 640, 480, 640, 480, nullptr), 0);
+    EXPECT_TRUE(host.Calls().Take().empty());
+}
+
+}  // namespace

@@ -1,0 +1,334 @@
+// Gamma Correction from the host's call to its return, and with it the life cycle of all effect dialogs.
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "support/dialog_driver.h"
+#include "support/expected_calls.h"
+#include "support/recording_host.h"
+
+namespace {
+
+constexpr POINT kEnable{40, 305};
+constexpr POINT kDefault{60, 440};
+constexpr POINT kCancel{380, 440};
+constexpr POINT kOk{450, 440};
+constexpr POINT kClose{485, 15};
+constexpr int kSlider = 13;
+
+struct Session {
+    explicit Session(GammaCorrectionSettings initial, HostOptions options = {})
+        : record(initial), host(EffectId::GammaCorrection, options) {}
+
+    /// Runs the dialog; the trace then starts after the opening calls, unless a test takes it earlier.
+    void Run(const std::function<void(DialogDriver&)>& script) {
+        IMediaHost* pointer = &host;
+        RunDialog(
+            [&] { result = ShowSettingsDialog(&pointer, EffectId::GammaCorrection, 640, 480, 640, 480, &record); },
+            script);
+        EXPECT_EQ(host.OpenReferences(), 0U);
+        EXPECT_EQ(host.ActiveCount(), 0U);
+    }
+    Lines Calls() { return WithoutRefresh(host.Calls().Take()); }
+
+    GammaCorrectionSettings record;
+    RecordingHost host;
+    std::int32_t result = -99;
+};
+
+std::string Push(int value, int enabled) {
+    return "filter.SetGammaParams(" + std::to_string(value) + ", " + std::to_string(enabled) + ", 0, 0)";
+}
+
+TEST(GammaDialog, OpensPushesOnceAndClosesInOrder) {
+    const struct {
+        GammaCorrectionSettings record;
+        const char* push;
+        std::int32_t saved;  // By an OK without any change.
+    } rows[] = {
+        {{1, 100}, "filter.SetGammaParams(100, 1, 0, 0)", 100},
+        {{0, 250}, "filter.SetGammaParams(250, 0, 0, 0)", 250},
+        {{1, 1}, "filter.SetGammaParams(1, 1, 0, 0)", 1},
+        {{1, 500}, "filter.SetGammaParams(500, 1, 0, 0)", 500},
+        {{1, 0}, "filter.SetGammaParams(1, 1, 0, 0)", 1},
+        {{1, 700}, "filter.SetGammaParams(500, 1, 0, 0)", 500},
+        {{1, -2147483647 - 1}, "filter.SetGammaParams(1, 1, 0, 0)", 1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.push);
+        Session session(row.record);
+        session.Run([&](DialogDriver& dialog) {
+            EXPECT_EQ(session.Calls(), OpeningCalls() + Lines{row.push});
+            dialog.Click(kOk);
+        });
+        EXPECT_EQ(session.Calls(), ClosingCalls());
+        EXPECT_EQ(session.result, 1);
+        EXPECT_EQ(session.record.enabled, row.record.enabled);
+        EXPECT_EQ(session.record.value, row.saved);
+    }
+}
+
+TEST(GammaDialog, EachWayOfClosingHasItsResult) {
+    const struct {
+        const char* way;
+        std::function<void(DialogDriver&)> close;
+        std::int32_t result;
+    } rows[] = {
+        {"OK", [](DialogDriver& dialog) { dialog.Click(kOk); }, 1},
+        {"Enter", [](DialogDriver& dialog) { dialog.Key(VK_RETURN); }, 1},
+        {"Cancel", [](DialogDriver& dialog) { dialog.Click(kCancel); }, 2},
+        {"close button", [](DialogDriver& dialog) { dialog.Click(kClose); }, 2},
+        {"Esc", [](DialogDriver& dialog) { dialog.Key(VK_ESCAPE); }, 2},
+        {"WM_CLOSE", [](DialogDriver& dialog) { dialog.Close(); }, 2},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.way);
+        Session session({1, 100});
+        session.Run([&](DialogDriver& dialog) {
+            dialog.Click(kEnable);
+            session.Calls();
+            row.close(dialog);
+        });
+        EXPECT_EQ(session.result, row.result);
+        EXPECT_EQ(session.record.enabled, row.result == 1 ? 0 : 1);
+        EXPECT_EQ(session.Calls(), ClosingCalls());
+    }
+}
+
+TEST(GammaDialog, PreviewStartsOnceHalfASecondAfterOpening) {
+    Session session({1, 100});
+    Lines lines;
+    const unsigned opened = ::GetTickCount();
+    session.Run([&](DialogDriver& dialog) {
+        EXPECT_TRUE(DialogDriver::WaitFor([&] { return session.host.RefreshedAtMs() != 0; }));
+        // Long enough for a timer that was not stopped to come again.
+        const unsigned first = session.host.RefreshedAtMs();
+        DialogDriver::WaitFor([&] { return ::GetTickCount() - first > 1200; });
+        dialog.Settle();
+        lines = session.host.Calls().Take();
+    });
+    EXPECT_GE(session.host.RefreshedAtMs() - opened, 490U);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "host.RefreshPreview()"), 1);
+    EXPECT_EQ(lines.back(), "host.RefreshPreview()");
+}
+
+TEST(GammaDialog, EveryMoveOfTheSliderIsOnePushAndAReleaseIsNone) {
+    const struct {
+        const char* name;
+        int start;
+        std::vector<POINT> points;  // Press, moves; the release is where the last one was.
+        Lines pushes;
+        std::int32_t saved;
+    } rows[] = {
+        {"track, middle", 100, {{215, 10}}, {Push(250, 1)}, 250},
+        {"track, left end", 100, {{3, 10}}, {Push(1, 1)}, 1},
+        {"track, right end", 100, {{426, 10}}, {Push(498, 1)}, 498},
+        {"outside the track", 100, {{429, 10}}, {}, 100},
+        {"drag", 100, {{87, 10}, {88, 10}, {215, 10}, {215, 90}}, {Push(101, 1), Push(250, 1), Push(250, 1)}, 250},
+        {"drag past the right end", 100, {{87, 10}, {1000, 10}, {500, 10}}, {Push(500, 1), Push(500, 1)}, 500},
+        {"drag past the left end", 100, {{87, 10}, {-50, 10}}, {Push(1, 1)}, 1},
+        {"press on the thumb only", 100, {{87, 10}}, {}, 100},
+        {"thumb at the left end", 1, {{3, 10}, {4, 10}}, {Push(2, 1)}, 2},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Session session({1, row.start});
+        session.Run([&](DialogDriver& dialog) {
+            const HWND slider = dialog.Child(kSlider);
+            session.Calls();
+            dialog.Press(row.points.front(), slider);
+            for (std::size_t move = 1; move < row.points.size(); ++move) {
+                dialog.Move(row.points[move], slider, MK_LBUTTON);
+            }
+            EXPECT_EQ(session.Calls(), row.pushes);
+            dialog.Release(row.points.back(), slider);
+            dialog.Move({300, 10}, slider);
+            EXPECT_EQ(session.Calls(), Lines{}) << "neither a release nor a move after it";
+            dialog.Click(kOk);
+        });
+        EXPECT_EQ(session.record.value, row.saved);
+    }
+}
+
+TEST(GammaDialog, TheSwitchDisablesTheSliderAndPushes) {
+    Session session({1, 300});
+    session.Run([&](DialogDriver& dialog) {
+        const HWND slider = dialog.Child(kSlider);
+        session.Calls();
+        EXPECT_TRUE(::IsWindowEnabled(slider));
+        dialog.Click(kEnable);
+        EXPECT_EQ(session.Calls(), Lines{Push(300, 0)});
+        EXPECT_FALSE(::IsWindowEnabled(slider));
+        // A fast second press arrives as a double click.
+        dialog.DoublePress(kEnable);
+        dialog.Release(kEnable);
+        EXPECT_EQ(session.Calls(), Lines{Push(300, 1)});
+        EXPECT_TRUE(::IsWindowEnabled(slider));
+    });
+    Session off({0, 300});
+    off.Run([&](DialogDriver& dialog) { EXPECT_FALSE(::IsWindowEnabled(dialog.Child(kSlider))); });
+}
+
+TEST(GammaDialog, SetAsDefaultReachesTheRecordOnlyThroughOk) {
+    for (const bool ok : {true, false}) {
+        Session session({0, 300});
+        session.Run([&](DialogDriver& dialog) {
+            session.Calls();
+            dialog.Click(kDefault);
+            EXPECT_EQ(session.Calls(), Lines{Push(100, 1)});
+            EXPECT_TRUE(::IsWindowEnabled(dialog.Child(kSlider)));
+            dialog.Click(ok ? kOk : kCancel);
+        });
+        EXPECT_EQ(session.record.enabled, ok ? 1 : 0);
+        EXPECT_EQ(session.record.value, ok ? 100 : 300);
+    }
+}
+
+TEST(GammaDialog, TheNumberFollowsTheSlider) {
+    constexpr RECT kNumber{460, 350, 510, 370};
+    const auto pictureOf = [&](int value) {
+        unsigned long sum = 0;
+        Session session({1, value});
+        session.Run([&](DialogDriver& dialog) { sum = dialog.PixelSum(kNumber); });
+        return sum;
+    };
+    const unsigned long hundred = pictureOf(100);
+    const unsigned long twoFifty = pictureOf(250);
+    ASSERT_NE(hundred, twoFifty);
+    EXPECT_NE(pictureOf(700), pictureOf(500)) << "the number of the record itself is shown";
+    Session session({1, 100});
+    session.Run([&](DialogDriver& dialog) {
+        dialog.Press({215, 10}, dialog.Child(kSlider));
+        EXPECT_EQ(dialog.PixelSum(kNumber), twoFifty);
+        dialog.Click(kDefault);
+        EXPECT_EQ(dialog.PixelSum(kNumber), hundred);
+    });
+}
+
+// --- when the link to the filter cannot be had ---
+
+TEST(GammaDialog, AFailedAttachIsToldAndTheDialogStaysUsable) {
+    const Lines untilLists = {"host.SetPreviewWindow(panel)", "host.SetPreviewMode(0)", "host.SetPreviewOption(0)",
+                              "host.EnableVideoPreview(-1)", "host.GetVideoProcessors()"};
+    const Lines closing = {"host.StopPreview()",       "host.ResetPreview()",    "host.SetPreviewRange(0, 0)",
+                           "host.SetPreviewWindow(0)", "host.SetPreviewMode(1)", "host.EnableVideoPreview(0)",
+                           "host.GetVideoProcessors()"};
+    const Lines active = {"host.GetActiveVideoProcessors()"};
+    const struct {
+        const char* name;
+        HostOptions options;
+        Lines opening;
+        Lines closing;
+    } rows[] = {
+        {"not in the catalogue",
+         {.hasFilters = false},
+         untilLists + active + Lines{"active.FindByMoniker", "all.FindByMoniker"},
+         closing + active + Lines{"active.FindByMoniker"}},
+        {"no catalogue", {.givesAllList = false}, untilLists, closing},
+        {"no chain", {.givesActiveList = false}, untilLists + active, closing + active},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Session session({1, 100}, row.options);
+        session.Run([&](DialogDriver& box) {
+            wchar_t text[64] = {};
+            ::GetWindowTextW(::GetDlgItem(box.Window(), 0xFFFF), text, 64);
+            EXPECT_STREQ(text, L"AddVideoProcessor Fialed");
+            EXPECT_EQ(session.Calls(), row.opening);
+            box.Command(IDOK);
+            DialogDriver dialog(DialogDriver::WaitForDialog(box.Window()));
+            dialog.Settle();
+            dialog.Press({215, 10}, dialog.Child(kSlider));
+            dialog.Click(kDefault);
+            dialog.Press({215, 10}, dialog.Child(kSlider));
+            const unsigned start = ::GetTickCount();
+            DialogDriver::WaitFor([&] { return ::GetTickCount() - start > 700; });
+            EXPECT_EQ(session.host.Calls().Take(), Lines{}) << "no push, and no preview after 500 ms";
+            dialog.Click(kOk);
+        });
+        EXPECT_EQ(session.Calls(), row.closing);
+        EXPECT_EQ(session.result, 1);
+        EXPECT_EQ(session.record.value, 250);
+    }
+}
+
+TEST(GammaDialog, WorksWithoutAHost) {
+    IMediaHost* none = nullptr;
+    GammaCorrectionSettings record{1, 100};
+    std::int32_t result = -99;
+    RunDialog([&] { result = ShowSettingsDialog(&none, EffectId::GammaCorrection, 640, 480, 640, 480, &record); },
+              [&](DialogDriver& box) {
+                  box.Command(IDOK);
+                  DialogDriver dialog(DialogDriver::WaitForDialog(box.Window()));
+                  dialog.Settle();
+                  dialog.Click(kEnable);
+                  dialog.Click(kOk);
+              });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(record.enabled, 0);
+}
+
+TEST(GammaDialog, AMissingProcessorOrInterfaceIsSilent) {
+    for (const HostOptions options : {HostOptions{.givesProcessor = false}, HostOptions{.filterHasInterface = false}}) {
+        Session session({1, 100}, options);
+        session.Run([&](DialogDriver& dialog) {
+            EXPECT_EQ(session.Calls(), OpeningCalls());
+            dialog.Click(kEnable);
+            EXPECT_TRUE(DialogDriver::WaitFor([&] { return session.host.RefreshedAtMs() != 0; }));
+        });
+        EXPECT_EQ(session.Calls(), ClosingCalls());
+    }
+}
+
+TEST(GammaDialog, AFilterThatIsActiveAlreadyIsNotAddedTwice) {
+    Session session({1, 100}, {.isActiveAlready = true});
+    session.Run([&](DialogDriver&) {
+        EXPECT_EQ(session.host.ActiveCount(), 1U);
+        Lines expected = OpeningCalls() + Lines{Push(100, 1)};
+        expected.insert(std::find(expected.begin(), expected.end(), "all.FindByMoniker"), "active.RemoveAt(0)");
+        EXPECT_EQ(session.Calls(), expected);
+    });
+}
+
+TEST(AudioDialog, UsesTheAudioChainInItsOwnOrder) {
+    RecordingHost host(EffectId::AudioChorus);
+    IMediaHost* pointer = &host;
+    std::int32_t record[32] = {};
+    RunDialog([&] { ShowSettingsDialog(&pointer, EffectId::AudioChorus, 640, 480, 640, 480, record); },
+              [&](DialogDriver&) {
+                  const Lines expected = {
+                      "host.SetPreviewWindow(panel)", "host.SetPreviewOption(0)",    "host.SetPreviewMode(0)",
+                      "host.EnableVideoPreview(0)",   "host.GetAudioProcessors()",   "host.GetActiveAudioProcessors()",
+                      "active.FindByMoniker",         "all.FindByMoniker",           "all.GetItem(0)",
+                      "active.Add(filter, 0)",        "host.GetProcessorObject(256)"};
+                  EXPECT_EQ(WithoutRefresh(host.Calls().Take()), expected);
+              });
+    const Lines expected = {
+        "host.StopPreview()",         "host.ResetPreview()",
+        "host.SetPreviewRange(0, 0)", "host.SetPreviewWindow(0)",
+        "host.EnableVideoPreview(0)", "host.SetPreviewMode(1)",
+        "host.GetAudioProcessors()",  "host.GetActiveAudioProcessors()",
+        "active.FindByMoniker",       "active.RemoveAt(0)"};
+    EXPECT_EQ(WithoutRefresh(host.Calls().Take()), expected);
+}
+
+// --- the host survives ---
+
+TEST(Endurance, TwoHundredOpeningsLeaveNothingBehind) {
+    RecordingHost host(EffectId::GammaCorrection);
+    IMediaHost* pointer = &host;
+    GammaCorrectionSettings record{1, 100};
+    const auto open = [&] {
+        RunDialog([&] { ShowSettingsDialog(&pointer, EffectId::GammaCorrection, 640, 480, 640, 480, &record); },
+                  [](DialogDriver& dialog) { dialog.Close(); });
+    };
+    for (int round = 0; round < 5; ++round) open();
+    const int objects = CountGdiObjects();
+    const int windows = CountWindows();
+    for (int round = 0; round < 200; ++round) open();
+    EXPECT_EQ(CountGdiObjects(), objects);
+    EXPECT_EQ(CountWindows(), windows);
+    EXPECT_EQ(host.OpenReferences(), 0U);
+}
+
+}  // namespace
