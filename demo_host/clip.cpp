@@ -54,8 +54,8 @@ private:
         Graphics graphics(&bitmap);
         graphics.SetSmoothingMode(SmoothingModeAntiAlias);
         const Rect sky(0, 0, kSceneWidth, kSceneHeight);
-        LinearGradientBrush dusk(Rect(0, 0, kSceneWidth, 330), Color(38, 62, 122), Color(250, 178, 120),
-                                 LinearGradientModeVertical);
+        LinearGradientBrush dusk(
+            Rect(0, 0, kSceneWidth, 330), Color(38, 62, 122), Color(250, 178, 120), LinearGradientModeVertical);
         dusk.SetWrapMode(WrapModeTileFlipXY);
         graphics.FillRectangle(&dusk, sky);
         for (int ring = 6; ring >= 0; --ring) {
@@ -82,7 +82,8 @@ private:
     static void PaintCloud(Graphics& graphics, float x, float y, float scale) {
         const SolidBrush brush(Color(210, 255, 246, 240));
         for (const RectF& puff : {RectF(0, 14, 60, 26), RectF(22, 0, 52, 40), RectF(52, 10, 58, 30)}) {
-            graphics.FillEllipse(&brush, x + puff.X * scale, y + puff.Y * scale, puff.Width * scale, puff.Height * scale);
+            graphics.FillEllipse(
+                &brush, x + puff.X * scale, y + puff.Y * scale, puff.Width * scale, puff.Height * scale);
         }
     }
 
@@ -119,8 +120,8 @@ public:
     explicit CPictureClip(std::unique_ptr<Bitmap> picture) : m_picture(std::move(picture)) {
         m_size = {static_cast<LONG>(m_picture->GetWidth()), static_cast<LONG>(m_picture->GetHeight())};
         const double scale = (std::min)(1.0, static_cast<double>(kLargestSide) / (std::max)(m_size.cx, m_size.cy));
-        m_frame = Frame((std::max)(static_cast<int>(m_size.cx * scale), 1),
-                        (std::max)(static_cast<int>(m_size.cy * scale), 1));
+        m_frame = Frame(
+            (std::max)(static_cast<int>(m_size.cx * scale), 1), (std::max)(static_cast<int>(m_size.cy * scale), 1));
         ReadDelays();
         Decode(0);
     }

@@ -180,7 +180,9 @@ void CKitGalleryDlg::AddSliderRow(int row) {
         LPCWSTR label;
         double position;
         bool enabled;
-    } sliders[] = {{L"Slider, lowest", 0, true}, {L"Slider, middle", 50, true}, {L"Slider, highest", 100, true},
+    } sliders[] = {{L"Slider, lowest", 0, true},
+                   {L"Slider, middle", 50, true},
+                   {L"Slider, highest", 100, true},
                    {L"Slider, disabled", 50, false}};
     for (const auto& setup : sliders) {
         const CRect cell = Cell(0, row++);
@@ -211,10 +213,11 @@ bool CKitGalleryDlg::CreateControls() {
     });
     AddRow<CSkinCheckBox>(row++, L"Check box", L"Check box", L"A caption that is too long", asIs);
     AddRow<CSkinCheckBox>(row++, L"Check box, checked", L"Check box", L"A caption that is too long", checked);
-    AddRow<CSkinCheckBox>(row++, L"Check box with a face", L"With a face", L"A caption that is too long", [](CSkinCheckBox& item) {
-        item.SetPlain(false);
-        item.SetChecked(true);
-    });
+    AddRow<CSkinCheckBox>(
+        row++, L"Check box with a face", L"With a face", L"A caption that is too long", [](CSkinCheckBox& item) {
+            item.SetPlain(false);
+            item.SetChecked(true);
+        });
     AddRow<CSkinRadioButton>(row++, L"Radio button", L"Radio button", L"A caption that is too long", asIs);
     AddRow<CSkinRadioButton>(row++, L"Radio button, selected", L"Radio button", L"A caption that is too long", checked);
     AddRow<CColorSwatch>(row++, L"Colour swatch", L"", L"", [](CColorSwatch& swatch) { swatch.SetColor(kGreenColor); });

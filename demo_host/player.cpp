@@ -17,8 +17,8 @@ void DrawFrame(HWND window, const Frame& frame) {
     RECT client;
     ::GetClientRect(window, &client);
     if (client.right <= 0 || client.bottom <= 0) return;
-    const double scale = (std::min)(static_cast<double>(client.right) / frame.width,
-                                    static_cast<double>(client.bottom) / frame.height);
+    const double scale =
+        (std::min)(static_cast<double>(client.right) / frame.width, static_cast<double>(client.bottom) / frame.height);
     const int width = (std::max)(static_cast<int>(frame.width * scale + 0.5), 1);
     const int height = (std::max)(static_cast<int>(frame.height * scale + 0.5), 1);
     const int x = (client.right - width) / 2;
@@ -35,8 +35,8 @@ void DrawFrame(HWND window, const Frame& frame) {
     const HDC dc = ::GetDC(window);
     ::SetStretchBltMode(dc, HALFTONE);
     ::SetBrushOrgEx(dc, 0, 0, nullptr);
-    ::StretchDIBits(dc, x, y, width, height, 0, 0, frame.width, frame.height, frame.pixels.data(), &info,
-                    DIB_RGB_COLORS, SRCCOPY);
+    ::StretchDIBits(
+        dc, x, y, width, height, 0, 0, frame.width, frame.height, frame.pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);
     ::SetDCBrushColor(dc, kBarColor);
     const auto bar = static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
     for (const RECT& rest : {RECT{0, 0, x, client.bottom}, RECT{x + width, 0, client.right, client.bottom},
@@ -149,7 +149,7 @@ HRESULT CPlayer::SetPreviewOption(LONG option) {
 
 HRESULT CPlayer::SetPreviewWindow(LONG window) {
     Trace("host.SetPreviewWindow(" + Hex(window) + ")");
-    m_previewWindow = static_cast<HWND>(::LongToHandle(window));
+    m_previewWindow = static_cast<HWND>(LongToHandle(window));
     m_dialog = m_previewWindow ? ::GetAncestor(m_previewWindow, GA_ROOT) : nullptr;
     return S_OK;
 }

@@ -8,7 +8,7 @@ namespace {
 /// An effect whose own controls do not exist yet: frame, preview and filter link only.
 class CBareEffectDlg : public CEffectDlg<IUnknown, const EffectSettingsRecord> {
 public:
-    explicit CBareEffectDlg(EffectId id) : CEffectDlg(id) {}
+    explicit CBareEffectDlg(EffectId id) : CEffectDlg(id, {.previewId = id == EffectId::AudioChorus ? 21U : 11U}) {}
 };
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include "entry/session.h"
 
 void OpenPreview(IMediaHost& host, ChainKind chain, HWND panel) {
-    host.SetPreviewWindow(::HandleToLong(panel));
+    host.SetPreviewWindow(HandleToLong(panel));
     if (chain == ChainKind::Video) {
         host.SetPreviewMode(0);
         host.SetPreviewOption(0);

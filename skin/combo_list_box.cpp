@@ -23,9 +23,7 @@ int TaskbarReserve() {
     return place.Height();
 }
 
-bool IsMouseButtonDown() {
-    return ((::GetAsyncKeyState(VK_LBUTTON) | ::GetAsyncKeyState(VK_RBUTTON)) & 0x8000) != 0;
-}
+bool IsMouseButtonDown() { return ((::GetAsyncKeyState(VK_LBUTTON) | ::GetAsyncKeyState(VK_RBUTTON)) & 0x8000) != 0; }
 
 }  // namespace
 
@@ -229,6 +227,7 @@ void CVelComboListBox::Paint(HDC dc, CSize size) {
     const Gdiplus::Point triangle[] = {{width - 13, 10 + lower}, {width - 6, 10 + lower}, {width - 10, 14 + lower}};
     graphics.FillPolygon(&SharedBrush(OpaqueColor(color)), triangle, 3);
     if (Text().IsEmpty()) return;
-    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kTextEm), CRect(kTextLeft, 0, width - kTriangleSpace, size.cy),
-               TextLayout::LeftMiddle, OpaqueColor(IsEnabled() ? kBackgroundColor : DisabledColor()));
+    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kTextEm),
+               CRect(kTextLeft, 0, width - kTriangleSpace, size.cy), TextLayout::LeftMiddle,
+               OpaqueColor(IsEnabled() ? kBackgroundColor : DisabledColor()));
 }

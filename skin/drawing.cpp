@@ -73,8 +73,9 @@ void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color) {
 void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color) {
     const int right = size.cx - 1;
     const int bottom = size.cy - 1;
-    const Gdiplus::Point corners[] = {{1, 0},           {right - 1, 0}, {right, 1},      {right, bottom - 1},
-                                      {right - 1, bottom}, {1, bottom},    {0, bottom - 1}, {0, 1}};
+    const Gdiplus::Point corners[] = {
+        {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
+        {1, bottom}, {0, bottom - 1}, {0, 1}};
     graphics.DrawPolygon(&SharedPen(OpaqueColor(color)), corners, static_cast<INT>(std::size(corners)));
 }
 
@@ -94,9 +95,9 @@ void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus:
 void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
                       COLORREF color, COLORREF halo) {
     const auto drawAt = [&](int x, int y, COLORREF ink) {
-        graphics.DrawString(text, text.GetLength(), &font,
-                            Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
-                            &SharedBrush(OpaqueColor(ink)));
+        graphics.DrawString(
+            text, text.GetLength(), &font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
+            &SharedBrush(OpaqueColor(ink)));
     };
     for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
         drawAt(at.x + offset.x, at.y + offset.y, halo);

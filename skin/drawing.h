@@ -107,8 +107,8 @@ void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color);
 void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color);
 
 inline Gdiplus::Color OpaqueColor(COLORREF color) {
-    return Gdiplus::Color(static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)),
-                          static_cast<BYTE>(BlueOf(color)));
+    return Gdiplus::Color(
+        static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color)));
 }
 
 /// A GDI+ surface set up as the whole kit draws: anti-aliased, with grid-fitted ClearType text.

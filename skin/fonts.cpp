@@ -5,7 +5,6 @@
 #include <tuple>
 #include <vector>
 
-
 namespace {
 
 CFontHandle MakeFont(int height, int width, int weight) {
@@ -67,7 +66,8 @@ std::unique_ptr<Gdiplus::FontFamily> AnyInstalledFamily() {
 
 std::unique_ptr<Gdiplus::FontFamily> FindFamily(LPCWSTR face) {
     // The generic sans serif family may be missing too, hence the likely faces of machines without Arial.
-    for (const LPCWSTR name : {face, L"Arial", L"Liberation Sans", L"DejaVu Sans", L"Microsoft Sans Serif", L"Tahoma"}) {
+    for (const LPCWSTR name :
+         {face, L"Arial", L"Liberation Sans", L"DejaVu Sans", L"Microsoft Sans Serif", L"Tahoma"}) {
         auto family = std::make_unique<Gdiplus::FontFamily>(name);
         if (family->IsAvailable()) return family;
         if (::wcscmp(name, face) != 0) continue;
@@ -139,8 +139,9 @@ const Gdiplus::StringFormat& FormatOf(TextLayout layout) {
     if (layout != TextLayout::LeftMiddle) format->SetAlignment(Gdiplus::StringAlignmentCenter);
     if (layout == TextLayout::Tip) {
         format->SetHotkeyPrefix(Gdiplus::HotkeyPrefixShow);
-        format->SetFormatFlags(Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoFitBlackBox |
-                               Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip);
+        format->SetFormatFlags(
+            Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoFitBlackBox |
+            Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip);
         format->SetTrimming(Gdiplus::StringTrimmingNone);
     } else {
         format->SetFormatFlags(Gdiplus::StringFormatFlagsNoWrap);

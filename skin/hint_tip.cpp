@@ -97,9 +97,10 @@ void CHintTip::OnPaint() {
     }
     const LONG right = client.right - 1;
     const LONG bottom = client.bottom - 1;
-    const POINT frame[][2] = {{{1, 0}, {right, 0}},
-                              {{right - 1, 1}, {right - 1, bottom}},
-                              {{1, bottom - 1}, {right, bottom - 1}},
-                              {{0, 1}, {0, bottom}}};
+    const POINT frame[][2] = {
+        {{1, 0}, {right, 0}},
+        {{right - 1, 1}, {right - 1, bottom}},
+        {{1, bottom - 1}, {right, bottom - 1}},
+        {{0, 1}, {0, bottom}}};
     for (const auto& line : frame) DrawLines(buffer.Dc(), line, 2, Lighten(kAccentColor, 30));
 }

@@ -10,7 +10,7 @@ void CSkinButton::SetPicture(LPCWSTR path) {
 
 void CSkinButton::Paint(HDC dc, CSize size) {
     if (m_framed) {
-        const CRect face(0, 0, size.cx, size.cy);
+        const CRect face(1, 1, size.cx - 1, size.cy - 1);
         if (IsPressed()) {
             FillVerticalGradient(dc, face, kBackgroundColor, kAccentColor);
         } else {
@@ -35,13 +35,12 @@ void CSkinButton::PaintPicture(Gdiplus::Graphics& graphics, CSize size) const {
 void CSkinButton::PaintCaption(Gdiplus::Graphics& graphics, CSize size) const {
     const bool pressedFace = IsPressed() && m_framed;
     const bool hoverFace = IsHovered() && m_framed;
-    const COLORREF color = !IsEnabled()  ? DisabledColor()
-                           : pressedFace ? Darken(kOrangeColor, 30)
-                           : hoverFace   ? kOrangeColor
-                                         : kTextColor;
-    const COLORREF halo = IsPressed()   ? Lighten(kAccentColor, 40)
-                          : IsHovered() ? kAccentColor
-                                        : kBackgroundColor;
+    const COLORREF color =
+        !IsEnabled()  ? DisabledColor()
+        : pressedFace ? Darken(kOrangeColor, 30)
+        : hoverFace   ? kOrangeColor
+                      : kTextColor;
+    const COLORREF halo = IsPressed() ? Lighten(kAccentColor, 40) : IsHovered() ? kAccentColor : kBackgroundColor;
     const Gdiplus::Font& font = MatchingFont(Font());
     const Gdiplus::SizeF text = MeasureText(graphics, Text(), font);
     const CPoint at(TruncateToInt((static_cast<double>(size.cx) - text.Width) * 0.5),

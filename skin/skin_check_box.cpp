@@ -22,12 +22,13 @@ void CSkinCheckBox::Paint(HDC dc, CSize size) {
     CTextGraphics graphics(dc);
     DrawMark(graphics, dc, 1, (size.cy - kMarkSize) / 2);
     if (Text().IsEmpty()) return;
-    const COLORREF color = !IsEnabled()  ? DisabledColor()
-                           : IsPressed() ? Darken(kOrangeColor, 30)
-                           : IsHovered() ? kOrangeColor
-                                         : Darken(kTextColor, 30);
-    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm),
-               CRect(kCaptionLeft, 0, size.cx, size.cy), TextLayout::LeftMiddle, OpaqueColor(color));
+    const COLORREF color =
+        !IsEnabled()  ? DisabledColor()
+        : IsPressed() ? Darken(kOrangeColor, 30)
+        : IsHovered() ? kOrangeColor
+                      : Darken(kTextColor, 30);
+    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm), CRect(kCaptionLeft, 0, size.cx, size.cy),
+               TextLayout::LeftMiddle, OpaqueColor(color));
 }
 
 void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int y) const {
@@ -35,8 +36,8 @@ void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int
     const POINT box[] = {{x, y}, {x + last, y}, {x + last, y + last}, {x, y + last}, {x, y}};
     DrawLines(dc, box, 5, m_checked && IsEnabled() ? kBlueColor : kAccentColor);
     if (!m_checked) return;
-    const POINT tick[] = {{x + 4, y + 6}, {x + 4, y + 8}, {x + 5, y + 7}, {x + 5, y + 9}, {x + 6, y + 8},
-                          {x + 6, y + 10}, {x + 7, y + 7}, {x + 7, y + 9}, {x + 8, y + 6}, {x + 8, y + 8},
-                          {x + 9, y + 5}, {x + 9, y + 7}, {x + 10, y + 4}, {x + 10, y + 7}};
+    const POINT tick[] = {{x + 4, y + 6},  {x + 4, y + 8}, {x + 5, y + 7},  {x + 5, y + 9}, {x + 6, y + 8},
+                          {x + 6, y + 10}, {x + 7, y + 7}, {x + 7, y + 9},  {x + 8, y + 6}, {x + 8, y + 8},
+                          {x + 9, y + 5},  {x + 9, y + 7}, {x + 10, y + 4}, {x + 10, y + 7}};
     DrawLines(dc, tick, static_cast<int>(std::size(tick)), IsEnabled() ? kGreenColor : kAccentColor);
 }

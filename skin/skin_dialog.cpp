@@ -105,7 +105,7 @@ void CSkinDialog::CreateBackground() {
 
         const LONG right = width - 2;
         const LONG bottom = height - 2;
-        const POINT frame[] = {{2, 0},          {right - 2, 0}, {right, 2},      {right, bottom - 2}, {right - 2, bottom},
+        const POINT frame[] = {{2, 0},      {right - 2, 0},  {right, 2}, {right, bottom - 2}, {right - 2, bottom},
                                {2, bottom}, {0, bottom - 2}, {0, 1}};
         const POINT topLeftCorner[] = {{2, 0}, {0, 2}};
         const POINT separator[] = {{0, kTitleHeight}, {right, kTitleHeight}};

@@ -26,7 +26,7 @@ protected:
     };
 
     // Both create controls once the window exists; a false makes the dialog's creation fail.
-    virtual bool CreateStandardControls();                ///< What all dialogs of a kind have.
+    virtual bool CreateStandardControls();          ///< What all dialogs of a kind have.
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
     /// Places the controls; runs after every change of the size.
     virtual void LayoutControls();

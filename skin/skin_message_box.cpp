@@ -81,8 +81,8 @@ BOOL CSkinMessageBox::OnInitDialog() {
 }
 
 void CSkinMessageBox::OnSaveInfo() {
-    CFileDialog dialog(FALSE, nullptr, L"VelMediaInfo.txt", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, L"(*.txt)|*.txt||",
-                       this);
+    CFileDialog dialog(
+        FALSE, nullptr, L"VelMediaInfo.txt", OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, L"(*.txt)|*.txt||", this);
     if (dialog.DoModal() != IDOK) return;
     ::CopyFileW(SkinFolder() + L"report\\loadfilefailed.txt", dialog.GetPathName(), FALSE);
 }

@@ -97,13 +97,13 @@ void CSkinSlider::Paint(HDC target) {
 
     const bool enabled = IsWindowEnabled() != FALSE;
     m_track.SetRect(kTrackLeft, kTrackTop, TrackRight(client.Width()), kTrackBottom);
-    const int filled =
-        TruncateToInt((m_position - m_minimum) * (m_track.right - kTrackLeft) / (m_maximum - m_minimum));
-    const POINT outline[] = {{m_track.left - 1, m_track.top - 1},
-                             {m_track.right, m_track.top - 1},
-                             {m_track.right, m_track.bottom},
-                             {m_track.left - 1, m_track.bottom},
-                             {m_track.left - 1, m_track.top - 1}};
+    const int filled = TruncateToInt((m_position - m_minimum) * (m_track.right - kTrackLeft) / (m_maximum - m_minimum));
+    const POINT outline[] = {
+        {m_track.left - 1, m_track.top - 1},
+        {m_track.right, m_track.top - 1},
+        {m_track.right, m_track.bottom},
+        {m_track.left - 1, m_track.bottom},
+        {m_track.left - 1, m_track.top - 1}};
     FillRectangle(dc, m_track, kTextColor);
     DrawLines(dc, outline, 5, Lighten(kAccentColor, 50));
 
@@ -153,9 +153,9 @@ void CSkinSlider::OnMouseMove(UINT /*flags*/, CPoint point) {
     CRect client;
     GetClientRect(client);
     const int right = (std::max)((std::min)(m_dragOffset + static_cast<int>(point.x), client.Width()), kThumbWidth);
-    Propose(SliderCode::Dragged, (right - kThumbWidth * 0.5 - kTrackLeft) / (client.Width() - 2 * kTrackLeft) *
-                                         (m_maximum - m_minimum) +
-                                     m_minimum);
+    Propose(SliderCode::Dragged,
+            (right - kThumbWidth * 0.5 - kTrackLeft) / (client.Width() - 2 * kTrackLeft) * (m_maximum - m_minimum) +
+                m_minimum);
 }
 
 void CSkinSlider::OnLButtonUp(UINT /*flags*/, CPoint point) {
