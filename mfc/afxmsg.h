@@ -59,8 +59,8 @@ LRESULT Mouse(CWnd& window, WPARAM wParam, LPARAM lParam) {
 }
 template <auto Handler>
 LRESULT Size(CWnd& window, WPARAM wParam, LPARAM lParam) {
-    return Call<Handler>(window, static_cast<UINT>(wParam), static_cast<int>(LOWORD(lParam)),
-                         static_cast<int>(HIWORD(lParam)));
+    return Call<Handler>(
+        window, static_cast<UINT>(wParam), static_cast<int>(LOWORD(lParam)), static_cast<int>(HIWORD(lParam)));
 }
 template <auto Handler>
 LRESULT Timer(CWnd& window, WPARAM wParam, LPARAM) {
@@ -72,8 +72,8 @@ LRESULT Create(CWnd& window, WPARAM, LPARAM lParam) {
 }
 template <auto Handler>
 LRESULT Key(CWnd& window, WPARAM wParam, LPARAM lParam) {
-    return Call<Handler>(window, static_cast<UINT>(wParam), static_cast<UINT>(LOWORD(lParam)),
-                         static_cast<UINT>(HIWORD(lParam)));
+    return Call<Handler>(
+        window, static_cast<UINT>(wParam), static_cast<UINT>(LOWORD(lParam)), static_cast<UINT>(HIWORD(lParam)));
 }
 template <auto Handler>
 LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam);
@@ -84,24 +84,23 @@ LRESULT OtherWindow(CWnd& window, WPARAM, LPARAM lParam);
 
 }  // namespace afx
 
-#define DECLARE_MESSAGE_MAP()                       \
-protected:                                          \
-    static const AFX_MSGMAP* GetThisMessageMap();   \
+#define DECLARE_MESSAGE_MAP()                     \
+protected:                                        \
+    static const AFX_MSGMAP* GetThisMessageMap(); \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                       \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                        \
     const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); } \
-    const AFX_MSGMAP* theClass::GetThisMessageMap() {                                \
-        using ThisClass = theClass;                                                  \
-        using TheBaseClass = baseClass;                                              \
+    const AFX_MSGMAP* theClass::GetThisMessageMap() {                                 \
+        using ThisClass = theClass;                                                   \
+        using TheBaseClass = baseClass;                                               \
         static const AFX_MSGMAP_ENTRY entries[] = {
-
-#define END_MESSAGE_MAP()                                                         \
-    {0, 0, 0, 0, nullptr}                                                         \
-    }                                                                             \
-    ;                                                                             \
-    static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries};    \
-    return &map;                                                                  \
+#define END_MESSAGE_MAP()                                                      \
+    { 0, 0, 0, 0, nullptr }                                                    \
+    }                                                                          \
+    ;                                                                          \
+    static const AFX_MSGMAP map = {&TheBaseClass::GetThisMessageMap, entries}; \
+    return &map;                                                               \
     }
 
 #define AFX_WM_ENTRY(message, thunk, handler) {message, 0, 0, 0, &afx::thunk<&ThisClass::handler>},

@@ -138,8 +138,7 @@ LRESULT Erase(CWnd& window, WPARAM wParam, LPARAM) {
 template <auto Handler>
 LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam) {
     return Call<Handler>(window, static_cast<UINT>(LOWORD(wParam)),
-                         CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)),
-                         static_cast<BOOL>(HIWORD(wParam)));
+                         CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)), static_cast<BOOL>(HIWORD(wParam)));
 }
 template <auto Handler>
 LRESULT OtherWindow(CWnd& window, WPARAM, LPARAM lParam) {

@@ -24,8 +24,8 @@ INT_PTR CDialog::DoModal() {
     if (created) RunModalLoop();
 
     if (m_hWnd) {
-        ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0,
-                       SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        ::SetWindowPos(
+            m_hWnd, nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
     // Before the window goes, or the system would activate another application's.
     if (disableOwner) ::EnableWindow(owner, TRUE);

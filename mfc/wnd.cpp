@@ -19,8 +19,7 @@ thread_local MSG t_currentMessage{};
 
 LRESULT CALLBACK ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* object = CWnd::FromHandlePermanent(window);
-    return object ? object->ReceiveMessage(message, wParam, lParam)
-                  : ::DefWindowProcW(window, message, wParam, lParam);
+    return object ? object->ReceiveMessage(message, wParam, lParam) : ::DefWindowProcW(window, message, wParam, lParam);
 }
 
 LRESULT CALLBACK CreationHookProc(int code, WPARAM wParam, LPARAM lParam) {
@@ -96,8 +95,8 @@ void CWnd::Detach() {
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCTW& create) {
     if (!create.lpszClass) {
-        create.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
-                                               ::GetSysColorBrush(COLOR_WINDOW));
+        create.lpszClass = AfxRegisterWndClass(
+            CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
     }
     return TRUE;
 }
@@ -125,9 +124,9 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style
     HWND window = nullptr;
     {
         const afx::CreationHook hook(*this);
-        window = ::CreateWindowExW(create.dwExStyle, create.lpszClass, create.lpszName,
-                                   static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
-                                   create.hwndParent, create.hMenu, create.hInstance, nullptr);
+        window = ::CreateWindowExW(
+            create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style), create.x, create.y,
+            create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance, nullptr);
     }
     if (!window && m_hWnd) Detach();
     return window != nullptr;
@@ -137,8 +136,7 @@ BOOL CWnd::DestroyWindow() { return m_hWnd ? ::DestroyWindow(m_hWnd) : FALSE; }
 
 LRESULT CWnd::ReceiveMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND window = m_hWnd;
-    const MSG previous =
-        std::exchange(t_currentMessage, MSG{window, message, wParam, lParam, 0, {0, 0}});
+    const MSG previous = std::exchange(t_currentMessage, MSG{window, message, wParam, lParam, 0, {0, 0}});
     LRESULT result = 0;
     try {
         result = WindowProc(message, wParam, lParam);

@@ -25,8 +25,8 @@ CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const EffectDialo
     : m_info(info), m_options(options), m_moniker(MonikerOf(info)) {}
 
 bool CEffectSettingsDlg::CreateStandardControls() {
-    const LPCWSTR blackPanel = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW),
-                                                   static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), nullptr);
+    const LPCWSTR blackPanel = AfxRegisterWndClass(
+        0, ::LoadCursorW(nullptr, IDC_ARROW), static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), nullptr);
     return CSkinDialog::CreateStandardControls() && AddButton(m_defaultButton, L"Set as default", kDefaultButtonId) &&
            m_preview.Create(blackPanel, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, m_options.previewId);
 }

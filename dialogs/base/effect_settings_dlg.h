@@ -26,11 +26,11 @@ protected:
 
     // What a dialog states of its own: CreateControls and LayoutControls, then these.
 
-    virtual void SyncControls() {}              ///< The enable rules.
-    virtual void ApplyToFilter() {}             ///< One push of all values; does nothing without a filter.
-    virtual bool Validate() { return true; }    ///< Whether OK may save and close; tells the user when not.
-    virtual void SaveSettings() {}              ///< Writes the caller's record.
-    virtual void ResetToDefaults() {}           ///< "Set as default": back to the effect's defaults, and a push.
+    virtual void SyncControls() {}            ///< The enable rules.
+    virtual void ApplyToFilter() {}           ///< One push of all values; does nothing without a filter.
+    virtual bool Validate() { return true; }  ///< Whether OK may save and close; tells the user when not.
+    virtual void SaveSettings() {}            ///< Writes the caller's record.
+    virtual void ResetToDefaults() {}         ///< "Set as default": back to the effect's defaults, and a push.
     virtual void OnEnableClicked() { SyncAndApply(); }
 
     virtual void ConnectFilter(IUnknown& processor) = 0;

@@ -70,7 +70,8 @@ inline constexpr IID IID_IEffectLightning = MakeEffectGuid(0xE2B7DC1A);
 inline constexpr CLSID CLSID_EffectMaze = MakeEffectGuid(0xE2B7DC3E);
 inline constexpr IID IID_IEffectMaze = MakeEffectGuid(0xE2B7DC41);
 inline constexpr CLSID CLSID_EffectMotionBlur = MakeEffectGuid(0xE2B7DC0F);
-inline constexpr IID IID_IEffectMotionBlur = MakeEffectGuid(0xE2B7DD30);  // Out of its neighbours' numbering, on purpose.
+inline constexpr IID IID_IEffectMotionBlur =
+    MakeEffectGuid(0xE2B7DD30);  // Out of its neighbours' numbering, on purpose.
 inline constexpr CLSID CLSID_EffectMotionEmboss = MakeEffectGuid(0xE2B7DC1B);
 inline constexpr IID IID_IEffectMotionEmboss = MakeEffectGuid(0xE2B7DC1E);
 inline constexpr CLSID CLSID_EffectMotionMosaic = MakeEffectGuid(0xE2B7DC0B);
@@ -100,8 +101,8 @@ inline constexpr IID IID_IEffectAudioChorus = MakeEffectGuid(0xE2B7DB39);
 
 /// What IEffectGammaCorrection takes, by value. Note the order: here the factor comes first.
 struct GammaParams {
-    std::int32_t value;      ///< Gamma factor in hundredths, 1 to 500; 100 leaves the picture as it is, more is brighter.
-    std::int32_t enabled;    ///< 0 or 1; with 0 the filter passes frames through.
+    std::int32_t value;    ///< Gamma factor in hundredths, 1 to 500; 100 leaves the picture as it is, more is brighter.
+    std::int32_t enabled;  ///< 0 or 1; with 0 the filter passes frames through.
     std::int32_t reserved1;  ///< Always 0.
     std::int32_t reserved2;  ///< Always 0.
 };

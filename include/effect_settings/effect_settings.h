@@ -67,15 +67,16 @@ using EffectSettingsRecord = void;
 /// Owned by the host; read when the dialog opens, written only when the user presses OK.
 struct GammaCorrectionSettings {
     std::int32_t enabled;  ///< 0 or 1.
-    std::int32_t value;    ///< Gamma factor in hundredths: 1 to 500, 100 is neutral. Values outside are clamped when shown.
+    std::int32_t
+        value;  ///< Gamma factor in hundredths: 1 to 500, 100 is neutral. Values outside are clamped when shown.
 };
 static_assert(sizeof(GammaCorrectionSettings) == 8);
 
 /// Results of ShowSettingsDialog.
-inline constexpr std::int32_t kSettingsNotShown = 0;       ///< No record, or no such effect: nothing was shown.
-inline constexpr std::int32_t kSettingsAccepted = 1;       ///< OK was pressed: the record holds the new values.
-inline constexpr std::int32_t kSettingsCancelled = 2;      ///< Cancel, Esc or the close button: the record is as it was.
-inline constexpr std::int32_t kSettingsNotCreated = -1;    ///< The dialog's window could not be created.
+inline constexpr std::int32_t kSettingsNotShown = 0;     ///< No record, or no such effect: nothing was shown.
+inline constexpr std::int32_t kSettingsAccepted = 1;     ///< OK was pressed: the record holds the new values.
+inline constexpr std::int32_t kSettingsCancelled = 2;    ///< Cancel, Esc or the close button: the record is as it was.
+inline constexpr std::int32_t kSettingsNotCreated = -1;  ///< The dialog's window could not be created.
 
 /// Shows the settings dialog of one effect and returns when the user has closed it.
 ///
