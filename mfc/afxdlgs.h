@@ -22,6 +22,7 @@ public:
 
 private:
     BOOL m_open;
+    CWnd* m_parent;
     std::wstring m_filter;
     wchar_t m_path[MAX_PATH] = {};
 };
@@ -37,5 +38,7 @@ public:
     CHOOSECOLORW m_cc{};
 
 private:
+    CWnd* m_parent;
+
     static COLORREF* CustomColors();  // The user's own colours last as long as the module.
 };

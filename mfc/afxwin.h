@@ -2,8 +2,6 @@
 // MFC's own names and with its behaviour. Where MFC exists this folder stays off the include path.
 #pragma once
 
-#include <type_traits>
-
 #include <windows.h>
 
 #include <commctrl.h>
@@ -11,26 +9,39 @@
 #include "afxmsg.h"
 #include "afxstr.h"
 
+namespace afx {
+class CreationHook;
+}
+
 class CDC {
 public:
-    explicit CDC(HDC dc = nullptr) : m_hDC(dc) {}
+    CDC() = default;
     CDC(const CDC&) = delete;
     CDC& operator=(const CDC&) = delete;
     HDC GetSafeHdc() const { return m_hDC; }
     operator HDC() const { return m_hDC; }
 
-    HDC m_hDC;
+    HDC m_hDC = nullptr;
 };
 
 class CPaintDC : public CDC {
 public:
     explicit CPaintDC(CWnd* window);
-    ~CPaintDC() { ::EndPaint(m_window, &m_ps); }
+    ~CPaintDC() { ::EndPaint(m_hWnd, &m_ps); }
 
     PAINTSTRUCT m_ps{};
 
-private:
-    HWND m_window;
+protected:
+    HWND m_hWnd;
+};
+
+class CClientDC : public CDC {
+public:
+    explicit CClientDC(CWnd* window);  ///< Null for the screen.
+    ~CClientDC() { ::ReleaseDC(m_hWnd, m_hDC); }
+
+protected:
+    HWND m_hWnd;
 };
 
 class CWnd {
@@ -42,14 +53,23 @@ public:
 
     HWND m_hWnd = nullptr;
 
+    // Places in the stack of windows, for SetWindowPos.
+    static const CWnd wndTop;
+    static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
+
     operator HWND() const { return m_hWnd; }
     HWND GetSafeHwnd() const { return m_hWnd; }
     /// The object of a window, or null for a window that is not one of this module's.
     static CWnd* FromHandlePermanent(HWND window);
 
-    BOOL Create(LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent,
-                  UINT id);
+    /// @param className  Null for a class with the framework's defaults.
+    virtual BOOL Create(LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    virtual BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent,
+                          UINT id, LPVOID param = nullptr);
+    BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, int x, int y, int width, int height,
+                  HWND parent, HMENU idOrMenu, LPVOID param = nullptr);
     virtual BOOL DestroyWindow();
 
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -61,13 +81,19 @@ public:
     void GetClientRect(LPRECT rect) const { ::GetClientRect(m_hWnd, rect); }
     void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
     void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
+    void ScreenToClient(LPRECT rect) const { ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(rect), 2); }
     void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
+    void ClientToScreen(LPRECT rect) const { ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(rect), 2); }
     void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE) {
         ::MoveWindow(m_hWnd, x, y, width, height, repaint);
     }
     void MoveWindow(LPCRECT rect, BOOL repaint = TRUE) {
         MoveWindow(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, repaint);
     }
+    BOOL SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) {
+        return ::SetWindowPos(m_hWnd, insertAfter ? insertAfter->m_hWnd : nullptr, x, y, width, height, flags);
+    }
+    /// Of a top-level window.
     void CenterWindow(CWnd* alternateOwner = nullptr);
     BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
     BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
@@ -79,17 +105,24 @@ public:
         return ::SetTimer(m_hWnd, id, milliseconds, callback);
     }
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
-    void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    void Invalidate(BOOL erase = TRUE) { InvalidateRect(nullptr, erase); }
+    void InvalidateRect(LPCRECT rect, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rect, erase); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    BOOL RedrawWindow(LPCRECT rect = nullptr, UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE) {
+        return ::RedrawWindow(m_hWnd, rect, nullptr, flags);
+    }
+    // Windows that are not this module's come back as null.
     CWnd* SetCapture() { return FromHandlePermanent(::SetCapture(m_hWnd)); }
-    BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
+    CWnd* SetFocus() { return FromHandlePermanent(::SetFocus(m_hWnd)); }
+    CWnd* GetParent() const { return FromHandlePermanent(::GetParent(m_hWnd)); }
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_EXSTYLE)); }
+    BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0) { return ChangeStyle(GWL_STYLE, remove, add, flags); }
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0) { return ChangeStyle(GWL_EXSTYLE, remove, add, flags); }
     int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
 
     virtual BOOL PreTranslateMessage(MSG*) { return FALSE; }
-
-    // Called by the framework's own window procedures.
-    void AttachHandle(HWND window);
-    LRESULT ReceiveMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
 protected:
     virtual BOOL PreCreateWindow(CREATESTRUCTW& create);
@@ -105,6 +138,8 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCTW) { return static_cast<int>(Default()); }
     afx_msg void OnDestroy() { Default(); }
+    afx_msg void OnNcDestroy() { Default(); }
+    afx_msg void OnClose() { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
     afx_msg void OnPaint() { Default(); }
@@ -112,40 +147,38 @@ protected:
     afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonUp(UINT, CPoint) { Default(); }
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
+    afx_msg void OnMouseHover(UINT, CPoint) { Default(); }
     afx_msg void OnMouseLeave() { Default(); }
-    afx_msg void OnTimer(UINT_PTR) { Default(); }
+    afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return static_cast<BOOL>(Default()); }
     afx_msg void OnCaptureChanged(CWnd*) { Default(); }
+    afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return static_cast<BOOL>(Default()); }
+    afx_msg void OnTimer(UINT_PTR) { Default(); }
     afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
+    afx_msg void OnSetFocus(CWnd*) { Default(); }
+    afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
+    afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
 
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
 private:
-    const AFX_MSGMAP_ENTRY* FindHandler(UINT message, UINT code, UINT id) const;
-    void Detach();
+    friend class afx::CreationHook;
 
-    WNDPROC m_superProc = nullptr;
+    explicit CWnd(HWND place) : m_hWnd(place) {}
+    static LRESULT CALLBACK ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Attach(HWND window);
+    void Detach();
+    const AFX_MSGMAP_ENTRY* FindHandler(UINT message, UINT code, UINT id) const;
+    BOOL ChangeStyle(int which, DWORD remove, DWORD add, UINT flags);
+
+    WNDPROC m_superProc = nullptr;  // The procedure that the window's class came with; null without a window.
 };
 
 namespace afx {
 
-template <auto Handler>
-LRESULT Erase(CWnd& window, WPARAM wParam, LPARAM) {
-    CDC dc(reinterpret_cast<HDC>(wParam));
-    return Call<Handler>(window, &dc);
-}
-template <auto Handler>
-LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam) {
-    return Call<Handler>(window, static_cast<UINT>(LOWORD(wParam)),
-                         CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)), static_cast<BOOL>(HIWORD(wParam)));
-}
-template <auto Handler>
-LRESULT OtherWindow(CWnd& window, WPARAM, LPARAM lParam) {
-    return Call<Handler>(window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)));
-}
-
-/// While one of these lives, the next window that its thread creates becomes the object's.
+/// While one of these lives, the next window that its thread creates becomes the object's, before its first message.
 class CreationHook {
 public:
     explicit CreationHook(CWnd& window);
@@ -153,20 +186,56 @@ public:
     CreationHook(const CreationHook&) = delete;
     CreationHook& operator=(const CreationHook&) = delete;
 
+    /// Takes what the creating function returned. When that failed, nothing of the window stays with the object.
+    bool Complete(HWND created);
+
 private:
-    CWnd* m_previousWindow;
-    HHOOK m_previousHook;
+    static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
+
+    CWnd* m_waiting;  // Null once it has its window.
+    HWND m_attached = nullptr;
+    CreationHook* m_outer;
+    HHOOK m_hook;
 };
+
+/// The top-level window that a dialog belongs to: the parent's, without one the thread's active window.
+HWND OwnerFor(const CWnd* parent);
+
+template <auto Handler>
+LRESULT Activate(CWnd& window, WPARAM wParam, LPARAM lParam) {
+    return Call<Handler, void, UINT, CWnd*, BOOL>(
+        window, LOWORD(wParam), CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)), HIWORD(wParam));
+}
+template <auto Handler>
+LRESULT Erase(CWnd& window, WPARAM wParam, LPARAM) {
+    CDC dc;
+    dc.m_hDC = reinterpret_cast<HDC>(wParam);
+    return Call<Handler, BOOL, CDC*>(window, &dc);
+}
+template <auto Handler>
+LRESULT Focus(CWnd& window, WPARAM wParam, LPARAM) {
+    return Call<Handler, void, CWnd*>(window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(wParam)));
+}
+template <auto Handler>
+LRESULT Capture(CWnd& window, WPARAM, LPARAM lParam) {
+    return Call<Handler, void, CWnd*>(window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)));
+}
+template <auto Handler>
+LRESULT Cursor(CWnd& window, WPARAM wParam, LPARAM lParam) {
+    return Call<Handler, BOOL, CWnd*, UINT, UINT>(
+        window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(wParam)), LOWORD(lParam), HIWORD(lParam));
+}
 
 }  // namespace afx
 
 class CDialog : public CWnd {
 public:
     CDialog() = default;
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr);
     /// The template is borrowed until DoModal returns.
     BOOL InitModalIndirect(LPCDLGTEMPLATEW dialogTemplate, CWnd* parent = nullptr);
-    /// Runs the dialog and returns what EndDialog was given; -1 when it could not be created or its window
-    /// was destroyed from outside.
+    /// Runs the dialog and returns what EndDialog was given; -1 when it could not be created, when its window
+    /// was destroyed from outside and when the application is to quit.
     virtual INT_PTR DoModal();
     void EndDialog(int result);
     BOOL PreTranslateMessage(MSG* message) override;
@@ -182,10 +251,12 @@ private:
     static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool CreateFor(HWND owner);
     void RunModalLoop();
+    bool IsPreTranslated(MSG& message) const;
 
     LPCDLGTEMPLATEW m_template = nullptr;
     CWnd* m_parent = nullptr;
     int m_result = -1;
+    bool m_initialized = false;
     bool m_running = false;
 };
 
@@ -202,11 +273,25 @@ public:
         return CWnd::Create(L"LISTBOX", L"", style, rect, parent, id);
     }
     int AddString(LPCWSTR text) { return Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
+    void ResetContent() { Ask(LB_RESETCONTENT); }
     int GetCount() const { return Ask(LB_GETCOUNT); }
     int GetCurSel() const { return Ask(LB_GETCURSEL); }
     int SetCurSel(int index) { return Ask(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+    int GetTextLen(int index) const { return Ask(LB_GETTEXTLEN, static_cast<WPARAM>(index)); }
     void GetText(int index, CString& text) const;
+    int FindStringExact(int startAfter, LPCWSTR text) const {
+        return Ask(LB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text));
+    }
     UINT ItemFromPoint(CPoint point, BOOL& outside) const;
+    int SetItemHeight(int index, UINT height) {
+        return Ask(LB_SETITEMHEIGHT, static_cast<WPARAM>(index), static_cast<LPARAM>(height));
+    }
+    int GetItemHeight(int index) const { return Ask(LB_GETITEMHEIGHT, static_cast<WPARAM>(index)); }
+    int GetItemRect(int index, LPRECT rect) const {
+        return Ask(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect));
+    }
+    int GetTopIndex() const { return Ask(LB_GETTOPINDEX); }
+    int SetTopIndex(int index) { return Ask(LB_SETTOPINDEX, static_cast<WPARAM>(index)); }
 
 protected:
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}
@@ -232,8 +317,9 @@ public:
 
 CWinApp* AfxGetApp();
 HINSTANCE AfxGetInstanceHandle();  ///< The module that this code is linked into.
+inline HINSTANCE AfxGetResourceHandle() { return AfxGetInstanceHandle(); }
 int AfxMessageBox(LPCWSTR text, UINT type = MB_OK, UINT helpId = 0);
-/// Registers a window class once and gives its name.
+/// Registers a window class once and gives its name; null when it can't be registered.
 LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr, HICON icon = nullptr);
 
 namespace afx {

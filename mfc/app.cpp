@@ -1,5 +1,6 @@
 // The module: its object, its window classes, message boxes.
 #include <cstdint>
+#include <mutex>
 #include <set>
 #include <string>
 
@@ -11,9 +12,14 @@ namespace {
 
 CWinApp* g_theApp = nullptr;
 
-std::set<std::wstring>& RegisteredClasses() {
-    static std::set<std::wstring> names;
-    return names;
+struct ClassNames {
+    std::mutex mutex;
+    std::set<std::wstring> names;
+};
+
+ClassNames& RegisteredClasses() {
+    static ClassNames classes;
+    return classes;
 }
 
 std::wstring ModuleName() {
@@ -34,7 +40,7 @@ HINSTANCE AfxGetInstanceHandle() { return reinterpret_cast<HINSTANCE>(&__ImageBa
 
 int AfxMessageBox(LPCWSTR text, UINT type, UINT /*helpId*/) {
     if (!(type & MB_ICONMASK)) type |= MB_ICONEXCLAMATION;
-    return ::MessageBoxW(::GetActiveWindow(), text, ModuleName().c_str(), type);
+    return ::MessageBoxW(afx::OwnerFor(nullptr), text, ModuleName().c_str(), type);
 }
 
 LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon) {
@@ -44,26 +50,29 @@ LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
                             reinterpret_cast<std::uintptr_t>(background), reinterpret_cast<std::uintptr_t>(icon)}) {
         name += L':' + std::to_wstring(part);
     }
-    const auto [entry, isNew] = RegisteredClasses().insert(name);
-    if (isNew) {
-        WNDCLASSW windowClass{};
-        windowClass.style = style;
-        windowClass.lpfnWndProc = ::DefWindowProcW;
-        windowClass.hInstance = AfxGetInstanceHandle();
-        windowClass.hIcon = icon;
-        windowClass.hCursor = cursor;
-        windowClass.hbrBackground = background;
-        windowClass.lpszClassName = entry->c_str();
-        ::RegisterClassW(&windowClass);
-    }
-    return entry->c_str();
+    ClassNames& classes = RegisteredClasses();
+    const std::lock_guard lock(classes.mutex);
+    const auto known = classes.names.find(name);
+    if (known != classes.names.end()) return known->c_str();
+    WNDCLASSW windowClass{};
+    windowClass.style = style;
+    windowClass.lpfnWndProc = ::DefWindowProcW;
+    windowClass.hInstance = AfxGetInstanceHandle();
+    windowClass.hIcon = icon;
+    windowClass.hCursor = cursor;
+    windowClass.hbrBackground = background;
+    windowClass.lpszClassName = name.c_str();
+    if (!::RegisterClassW(&windowClass)) return nullptr;
+    return classes.names.insert(name).first->c_str();
 }
 
 namespace afx {
 
 void UnregisterClasses() {
-    for (const std::wstring& name : RegisteredClasses()) ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle());
-    RegisteredClasses().clear();
+    ClassNames& classes = RegisteredClasses();
+    const std::lock_guard lock(classes.mutex);
+    for (const std::wstring& name : classes.names) ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle());
+    classes.names.clear();
 }
 
 }  // namespace afx

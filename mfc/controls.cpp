@@ -4,7 +4,7 @@
 #include "afxwin.h"
 
 void CListBox::GetText(int index, CString& text) const {
-    const int length = Ask(LB_GETTEXTLEN, static_cast<WPARAM>(index));
+    const int length = GetTextLen(index);
     text.Empty();
     if (length == LB_ERR) return;
     Ask(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.GetBuffer(length + 1)));
@@ -35,15 +35,15 @@ BOOL CRichEditCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags, LPCWSTR filter,
                          CWnd* parent)
-    : m_open(open) {
+    : m_open(open), m_parent(parent) {
     ::lstrcpynW(m_path, fileName ? fileName : L"", MAX_PATH);
     // The parts of the filter are separated by bars here and by nulls there.
     m_filter = filter ? filter : L"";
+    m_filter += L'\0';
     for (wchar_t& character : m_filter) {
         if (character == L'|') character = L'\0';
     }
     m_ofn.lStructSize = sizeof(m_ofn);
-    m_ofn.hwndOwner = parent ? parent->GetSafeHwnd() : ::GetActiveWindow();
     m_ofn.lpstrFilter = m_filter.c_str();
     m_ofn.lpstrFile = m_path;
     m_ofn.nMaxFile = MAX_PATH;
@@ -52,18 +52,21 @@ CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, 
 }
 
 INT_PTR CFileDialog::DoModal() {
+    m_ofn.hwndOwner = afx::OwnerFor(m_parent);
     return (m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn)) ? IDOK : IDCANCEL;
 }
 
-CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) {
+CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) : m_parent(parent) {
     m_cc.lStructSize = sizeof(m_cc);
-    m_cc.hwndOwner = parent ? parent->GetSafeHwnd() : ::GetActiveWindow();
     m_cc.rgbResult = initial;
     m_cc.lpCustColors = CustomColors();
     m_cc.Flags = flags | CC_RGBINIT;
 }
 
-INT_PTR CColorDialog::DoModal() { return ::ChooseColorW(&m_cc) ? IDOK : IDCANCEL; }
+INT_PTR CColorDialog::DoModal() {
+    m_cc.hwndOwner = afx::OwnerFor(m_parent);
+    return ::ChooseColorW(&m_cc) ? IDOK : IDCANCEL;
+}
 
 COLORREF* CColorDialog::CustomColors() {
     static COLORREF colors[16] = {};

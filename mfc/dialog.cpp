@@ -1,10 +1,43 @@
 // CDialog: modal dialogs with a message loop of their own.
 #include "afxwin.h"
 
+namespace {
+
+/// Keeps a window from input while it lives. A window that was disabled before stays so.
+class DisabledWindow {
+public:
+    explicit DisabledWindow(HWND window) : m_window(window && ::IsWindowEnabled(window) ? window : nullptr) {
+        if (m_window) ::EnableWindow(m_window, FALSE);
+    }
+    ~DisabledWindow() {
+        if (m_window) ::EnableWindow(m_window, TRUE);
+    }
+    DisabledWindow(const DisabledWindow&) = delete;
+    DisabledWindow& operator=(const DisabledWindow&) = delete;
+
+private:
+    HWND m_window;
+};
+
+/// The last in the chain of owners.
+HWND TopOwnerOf(HWND window) {
+    HWND top = window;
+    for (HWND next = window; next; next = ::GetWindow(next, GW_OWNER)) top = next;
+    return top;
+}
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, OnOK)
     ON_COMMAND(IDCANCEL, OnCancel)
 END_MESSAGE_MAP()
+
+CDialog::CDialog(UINT templateId, CWnd* parent) : m_parent(parent) {
+    const HINSTANCE module = AfxGetResourceHandle();
+    const HRSRC resource = ::FindResourceW(module, MAKEINTRESOURCEW(templateId), RT_DIALOG);
+    if (resource) m_template = static_cast<LPCDLGTEMPLATEW>(::LockResource(::LoadResource(module, resource)));
+}
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATEW dialogTemplate, CWnd* parent) {
     m_template = dialogTemplate;
@@ -13,44 +46,54 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATEW dialogTemplate, CWnd* parent) {
 }
 
 INT_PTR CDialog::DoModal() {
-    HWND owner = m_parent ? m_parent->GetSafeHwnd() : ::GetActiveWindow();
-    if (owner) owner = ::GetAncestor(owner, GA_ROOT);
-    const bool disableOwner = owner && ::IsWindowEnabled(owner);
-    if (disableOwner) ::EnableWindow(owner, FALSE);
-
-    m_result = -1;
-    m_running = true;
-    const bool created = CreateFor(owner);
-    if (created) RunModalLoop();
-
-    if (m_hWnd) {
-        ::SetWindowPos(
-            m_hWnd, nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    const HWND owner = afx::OwnerFor(m_parent);
+    bool created = false;
+    {
+        const DisabledWindow topOwnerDisabled(TopOwnerOf(owner));
+        const DisabledWindow ownerDisabled(owner);
+        m_result = -1;
+        m_running = true;
+        try {
+            created = CreateFor(owner);
+            if (created) RunModalLoop();
+        } catch (...) {
+            m_result = -1;  // A message filter threw; window procedures let nothing through.
+        }
+        m_running = false;
+        if (m_hWnd) {
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        }
     }
-    // Before the window goes, or the system would activate another application's.
-    if (disableOwner) ::EnableWindow(owner, TRUE);
-    if (owner && (!m_hWnd || ::GetActiveWindow() == m_hWnd)) ::SetActiveWindow(owner);
+    // The owners take input again before the window goes, or the system would activate another application's.
+    const bool wasDestroyed = created && !m_hWnd;
+    if (owner && (wasDestroyed || (m_hWnd && ::GetActiveWindow() == m_hWnd))) ::SetActiveWindow(owner);
     DestroyWindow();
-    return created ? m_result : -1;
+    return m_result;
 }
 
 bool CDialog::CreateFor(HWND owner) {
-    HWND window = nullptr;
+    m_initialized = false;
     {
-        const afx::CreationHook hook(*this);
-        window = ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), m_template, owner, &CDialog::DialogProc, 0);
+        afx::CreationHook hook(*this);
+        if (!hook.Complete(
+                ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), m_template, owner, &CDialog::DialogProc, 0))) {
+            return false;
+        }
     }
-    return window != nullptr;
+    if (!m_initialized) m_result = -1;
+    return m_initialized;
 }
 
 INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM) {
     if (message != WM_INITDIALOG) return FALSE;
     auto* dialog = static_cast<CDialog*>(FromHandlePermanent(window));
+    if (!dialog) return FALSE;
     try {
-        return dialog->OnInitDialog();
+        const BOOL systemSetsFocus = dialog->OnInitDialog();
+        dialog->m_initialized = true;
+        return systemSetsFocus;
     } catch (...) {
-        dialog->EndDialog(-1);
-        return FALSE;
+        return FALSE;  // Not initialized: the dialog ends before it shows.
     }
 }
 
@@ -63,23 +106,29 @@ void CDialog::RunModalLoop() {
             shown = true;
             ShowWindow(SW_SHOWNORMAL);
             UpdateWindow();
-            if (!m_running) break;
+            continue;
         }
-        if (::GetMessageW(&message, nullptr, 0, 0) <= 0) {
-            // The application is to end: the loop outside has to hear it too.
-            ::PostQuitMessage(static_cast<int>(message.wParam));
-            break;
+        const BOOL received = ::GetMessageW(&message, nullptr, 0, 0);
+        // The application is to end: the loop outside has to hear it too.
+        if (received == 0) ::PostQuitMessage(static_cast<int>(message.wParam));
+        if (received <= 0) {
+            m_result = -1;
+            return;
         }
-        bool handled = false;
-        for (HWND window = message.hwnd; window && !handled; window = ::GetParent(window)) {
-            CWnd* object = FromHandlePermanent(window);
-            handled = object && object->PreTranslateMessage(&message);
-        }
-        if (handled) continue;
+        if (IsPreTranslated(message)) continue;
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
     }
-    m_running = false;
+}
+
+bool CDialog::IsPreTranslated(MSG& message) const {
+    for (HWND window = message.hwnd; window; window = ::GetParent(window)) {
+        CWnd* object = FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(&message)) return true;
+        // What is meant for this dialog is no business of the one that owns it.
+        if (window == m_hWnd) return false;
+    }
+    return false;
 }
 
 void CDialog::EndDialog(int result) {

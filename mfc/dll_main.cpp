@@ -2,10 +2,14 @@
 #include "afxwin.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE /*instance*/, DWORD reason, LPVOID /*reserved*/) {
-    if (reason == DLL_PROCESS_ATTACH) return AfxGetApp()->InitInstance();
-    if (reason == DLL_PROCESS_DETACH) {
-        AfxGetApp()->ExitInstance();
-        afx::UnregisterClasses();
+    try {
+        if (reason == DLL_PROCESS_ATTACH) return AfxGetApp()->InitInstance();
+        if (reason == DLL_PROCESS_DETACH) {
+            AfxGetApp()->ExitInstance();
+            afx::UnregisterClasses();
+        }
+        return TRUE;
+    } catch (...) {
+        return FALSE;  // The loader can't handle exceptions; at attaching, the load fails.
     }
-    return TRUE;
 }

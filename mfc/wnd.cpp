@@ -1,5 +1,6 @@
 // CWnd: objects and their windows, message dispatch.
 #include <cstdarg>
+#include <mutex>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -8,28 +9,36 @@
 
 namespace {
 
-std::unordered_map<HWND, CWnd*>& WindowMap() {
-    static std::unordered_map<HWND, CWnd*> map;
-    return map;
-}
-
-thread_local CWnd* t_pendingWindow = nullptr;
-thread_local HHOOK t_creationHook = nullptr;
-thread_local MSG t_currentMessage{};
-
-LRESULT CALLBACK ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    CWnd* object = CWnd::FromHandlePermanent(window);
-    return object ? object->ReceiveMessage(message, wParam, lParam) : ::DefWindowProcW(window, message, wParam, lParam);
-}
-
-LRESULT CALLBACK CreationHookProc(int code, WPARAM wParam, LPARAM lParam) {
-    const auto window = reinterpret_cast<HWND>(wParam);
-    // The system may create an input method's window first.
-    if (code == HCBT_CREATEWND && t_pendingWindow && !(::GetClassLongPtrW(window, GCL_STYLE) & CS_IME)) {
-        std::exchange(t_pendingWindow, nullptr)->AttachHandle(window);
+/// This module's windows and their objects. Hosts may show dialogs on several threads.
+class WindowMap {
+public:
+    CWnd* Find(HWND window) {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_objects.find(window);
+        return found == m_objects.end() ? nullptr : found->second;
     }
-    return ::CallNextHookEx(t_creationHook, code, wParam, lParam);
+    void Insert(HWND window, CWnd* object) {
+        const std::lock_guard lock(m_mutex);
+        m_objects[window] = object;
+    }
+    void Erase(HWND window) {
+        const std::lock_guard lock(m_mutex);
+        m_objects.erase(window);
+    }
+
+private:
+    std::mutex m_mutex;
+    std::unordered_map<HWND, CWnd*> m_objects;
+};
+
+WindowMap& Windows() {
+    static WindowMap windows;
+    return windows;
 }
+
+// Nothing thread-local has a destructor: such a one would keep the library loaded until the thread ends.
+thread_local afx::CreationHook* t_creationHook = nullptr;
+thread_local MSG t_currentMessage{};
 
 /// What a window answers when its object threw: creation fails, painting counts as done, the rest as handled.
 LRESULT ResultAfterException(HWND window, UINT message) {
@@ -37,6 +46,8 @@ LRESULT ResultAfterException(HWND window, UINT message) {
     if (message == WM_PAINT) ::ValidateRect(window, nullptr);
     return 0;
 }
+
+bool IsImeWindow(HWND window) { return (::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0; }
 
 }  // namespace
 
@@ -53,34 +64,69 @@ void CString::Format(LPCWSTR format, ...) {
     m_text.assign(buffer.data());
 }
 
-CPaintDC::CPaintDC(CWnd* window) : m_window(window->GetSafeHwnd()) { m_hDC = ::BeginPaint(m_window, &m_ps); }
+CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) { m_hDC = ::BeginPaint(m_hWnd, &m_ps); }
+
+CClientDC::CClientDC(CWnd* window) : m_hWnd(window ? window->GetSafeHwnd() : nullptr) { m_hDC = ::GetDC(m_hWnd); }
 
 namespace afx {
 
 CreationHook::CreationHook(CWnd& window)
-    : m_previousWindow(std::exchange(t_pendingWindow, &window)),
-      m_previousHook(std::exchange(
-          t_creationHook, ::SetWindowsHookExW(WH_CBT, CreationHookProc, nullptr, ::GetCurrentThreadId()))) {}
+    : m_waiting(&window),
+      m_outer(std::exchange(t_creationHook, this)),
+      m_hook(::SetWindowsHookExW(WH_CBT, &HookProc, nullptr, ::GetCurrentThreadId())) {}
 
 CreationHook::~CreationHook() {
-    ::UnhookWindowsHookEx(t_creationHook);
-    t_creationHook = m_previousHook;
-    t_pendingWindow = m_previousWindow;
+    if (m_hook) ::UnhookWindowsHookEx(m_hook);
+    t_creationHook = m_outer;
+}
+
+LRESULT CALLBACK CreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam) {
+    const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
+    CreationHook& hook = *t_creationHook;
+    const auto window = reinterpret_cast<HWND>(wParam);
+    // The system may create an input method's window first.
+    if (code != HCBT_CREATEWND || refused || !hook.m_waiting || IsImeWindow(window)) return refused;
+    try {
+        std::exchange(hook.m_waiting, nullptr)->Attach(window);
+        hook.m_attached = window;
+        return 0;
+    } catch (...) {
+        return 1;  // No window rather than one without its object.
+    }
+}
+
+bool CreationHook::Complete(HWND created) {
+    if (created && created == m_attached) return true;
+    if (created) ::DestroyWindow(created);
+    // The object may have deleted itself with its window: only the map knows.
+    if (CWnd* object = CWnd::FromHandlePermanent(m_attached)) object->Detach();
+    return false;
+}
+
+HWND OwnerFor(const CWnd* parent) {
+    HWND window = parent ? parent->GetSafeHwnd() : nullptr;
+    if (!window) window = ::GetActiveWindow();
+    return window ? ::GetAncestor(window, GA_ROOT) : nullptr;
 }
 
 }  // namespace afx
 
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
 CWnd::~CWnd() {
-    if (m_hWnd) CWnd::DestroyWindow();
+    if (!m_superProc) return;
+    CWnd::DestroyWindow();
+    // Another thread's window can't be destroyed from here, but it must not come back to an object that is gone.
+    if (m_superProc) Detach();
 }
 
-CWnd* CWnd::FromHandlePermanent(HWND window) {
-    const auto found = WindowMap().find(window);
-    return found == WindowMap().end() ? nullptr : found->second;
-}
+CWnd* CWnd::FromHandlePermanent(HWND window) { return Windows().Find(window); }
 
-void CWnd::AttachHandle(HWND window) {
-    WindowMap()[window] = this;
+void CWnd::Attach(HWND window) {
+    Windows().Insert(window, this);
     m_hWnd = window;
     m_superProc = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
@@ -88,7 +134,7 @@ void CWnd::AttachHandle(HWND window) {
 
 void CWnd::Detach() {
     ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_superProc));
-    WindowMap().erase(m_hWnd);
+    Windows().Erase(m_hWnd);
     m_hWnd = nullptr;
     m_superProc = nullptr;
 }
@@ -98,7 +144,7 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCTW& create) {
         create.lpszClass = AfxRegisterWndClass(
             CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
     }
-    return TRUE;
+    return create.lpszClass != nullptr;
 }
 
 BOOL CWnd::Create(LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id) {
@@ -106,47 +152,57 @@ BOOL CWnd::Create(LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rec
 }
 
 BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent,
-                    UINT id) {
+                    UINT id, LPVOID param) {
+    return CreateEx(
+        exStyle, className, title, style, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+        parent ? parent->GetSafeHwnd() : nullptr, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), param);
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style, int x, int y, int width, int height,
+                    HWND parent, HMENU idOrMenu, LPVOID param) {
     CREATESTRUCTW create{};
+    create.lpCreateParams = param;
     create.hInstance = AfxGetInstanceHandle();
-    create.hMenu = reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id));
-    create.hwndParent = parent ? parent->GetSafeHwnd() : nullptr;
-    create.cx = rect.right - rect.left;
-    create.cy = rect.bottom - rect.top;
-    create.x = rect.left;
-    create.y = rect.top;
+    create.hMenu = idOrMenu;
+    create.hwndParent = parent;
+    create.cx = width;
+    create.cy = height;
+    create.x = x;
+    create.y = y;
     create.style = static_cast<LONG>(style);
     create.lpszName = title;
     create.lpszClass = className;
     create.dwExStyle = exStyle;
     if (!PreCreateWindow(create)) return FALSE;
 
-    HWND window = nullptr;
-    {
-        const afx::CreationHook hook(*this);
-        window = ::CreateWindowExW(
-            create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style), create.x, create.y,
-            create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance, nullptr);
-    }
-    if (!window && m_hWnd) Detach();
-    return window != nullptr;
+    afx::CreationHook hook(*this);
+    return hook.Complete(::CreateWindowExW(
+        create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style), create.x, create.y,
+        create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams));
 }
 
 BOOL CWnd::DestroyWindow() { return m_hWnd ? ::DestroyWindow(m_hWnd) : FALSE; }
 
-LRESULT CWnd::ReceiveMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND window = m_hWnd;
-    const MSG previous = std::exchange(t_currentMessage, MSG{window, message, wParam, lParam, 0, {0, 0}});
+LRESULT CALLBACK CWnd::ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CWnd* object = FromHandlePermanent(window);
+    if (!object) return ::DefWindowProcW(window, message, wParam, lParam);
+    const MSG outer = std::exchange(t_currentMessage, MSG{window, message, wParam, lParam, 0, {0, 0}});
     LRESULT result = 0;
     try {
-        result = WindowProc(message, wParam, lParam);
+        result = object->WindowProc(message, wParam, lParam);
     } catch (...) {
         result = ResultAfterException(window, message);
     }
-    t_currentMessage = previous;
-    if (message == WM_NCDESTROY) {
-        Detach();
-        PostNcDestroy();
+    t_currentMessage = outer;
+    if (message != WM_NCDESTROY) return result;
+    // Looked up again, for a handler may have deleted the object.
+    object = FromHandlePermanent(window);
+    if (!object) return result;
+    object->Detach();
+    try {
+        object->PostNcDestroy();
+    } catch (...) {
+        // The window is gone already; nobody is left to be told.
     }
     return result;
 }
@@ -157,7 +213,8 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::CallWindowProcW(m_superProc, m_hWnd, message, wParam, lParam);
+    // A handler may destroy its window and then call its base class.
+    return m_superProc ? ::CallWindowProcW(m_superProc, m_hWnd, message, wParam, lParam) : 0;
 }
 
 LRESULT CWnd::Default() {
@@ -170,12 +227,16 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
         return OnCommand(wParam, lParam);
     }
     const AFX_MSGMAP_ENTRY* entry = FindHandler(message, 0, 0);
-    if (!entry && (message == WM_DRAWITEM || message == WM_MEASUREITEM)) {
-        // Owner-drawn controls draw themselves.
-        CWnd* child = FromHandlePermanent(
-            message == WM_DRAWITEM
-                ? reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem
-                : ::GetDlgItem(m_hWnd, static_cast<int>(reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam)->CtlID)));
+    if (!entry && message == WM_DRAWITEM) {
+        const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        CWnd* child = item->CtlType == ODT_LISTBOX ? FromHandlePermanent(item->hwndItem) : nullptr;
+        return child && child->OnChildNotify(message, wParam, lParam, result);
+    }
+    if (!entry && message == WM_MEASUREITEM) {
+        const auto* item = reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam);
+        CWnd* child = item->CtlType == ODT_LISTBOX
+                          ? FromHandlePermanent(::GetDlgItem(m_hWnd, static_cast<int>(item->CtlID)))
+                          : nullptr;
         return child && child->OnChildNotify(message, wParam, lParam, result);
     }
     if (!entry) return FALSE;
@@ -184,7 +245,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    const AFX_MSGMAP_ENTRY* entry = FindHandler(WM_COMMAND, HIWORD(wParam), LOWORD(wParam));
+    // Menus and accelerators put a number of their own where controls have the notification.
+    const UINT code = lParam ? HIWORD(wParam) : 0U;
+    const AFX_MSGMAP_ENTRY* entry = FindHandler(WM_COMMAND, code, LOWORD(wParam));
     if (!entry) return FALSE;
     entry->dispatch(*this, wParam, lParam);
     return TRUE;
@@ -215,11 +278,11 @@ void CWnd::GetWindowText(CString& text) const {
     text.ReleaseBuffer();
 }
 
-BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT flags) {
-    const auto style = static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_STYLE));
+BOOL CWnd::ChangeStyle(int which, DWORD remove, DWORD add, UINT flags) {
+    const auto style = static_cast<DWORD>(::GetWindowLongW(m_hWnd, which));
     const DWORD next = (style & ~remove) | add;
     if (next == style) return FALSE;
-    ::SetWindowLongW(m_hWnd, GWL_STYLE, static_cast<LONG>(next));
+    ::SetWindowLongW(m_hWnd, which, static_cast<LONG>(next));
     if (flags) {
         ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
     }
