@@ -13,7 +13,7 @@ constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x
 bool SaveScreenOf(HWND window, const std::wstring& file) {
     CRect place;
     ::GetWindowRect(window, place);
-    const CWindowDC screen(nullptr);
+    const CBorrowedDC screen(nullptr);
     const CBitmapHandle picture{::CreateCompatibleBitmap(screen, place.Width(), place.Height())};
     {
         const CMemoryDC dc(screen, picture.Get());

@@ -23,8 +23,6 @@ int TaskbarReserve() {
     return place.Height();
 }
 
-bool IsMouseButtonDown() { return ((::GetAsyncKeyState(VK_LBUTTON) | ::GetAsyncKeyState(VK_RBUTTON)) & 0x8000) != 0; }
-
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CComboDropList, CListBox)
@@ -194,17 +192,20 @@ void CVelComboListBox::OnPicked(LPCWSTR text) {
 }
 
 void CVelComboListBox::OnDeactivated() {
+    if (!IsDropped()) return;  // Hiding deactivates once more.
     CPoint cursor;
     ::GetCursorPos(&cursor);
     ::ScreenToClient(Parent(), &cursor);
-    // A press on the item takes the activation first and arrives as a press afterwards.
-    m_pressClosedIt = IsDropped() && IsMouseButtonDown() && Bounds().PtInRect(cursor);
+    m_closedUnderPointer = Bounds().PtInRect(cursor);
+    m_closedAt = ::GetTickCount();
     m_drop.ShowWindow(SW_HIDE);
     Draw();
 }
 
 void CVelComboListBox::OnPress(bool inside) {
-    const bool pressClosedIt = std::exchange(m_pressClosedIt, false);
+    // A press on the item takes the activation from the list first and arrives afterwards, but is the older one.
+    const bool pressClosedIt = std::exchange(m_closedUnderPointer, false) &&
+                               static_cast<LONG>(static_cast<DWORD>(::GetMessageTime()) - m_closedAt) <= 0;
     if (inside) {
         if (!pressClosedIt) ShowDropDown(!IsDropped());
         return;

@@ -81,5 +81,6 @@ private:
     CComboDropWnd m_drop{*this};
     int m_rowHeight = 18;
     int m_maxListHeight = 180;
-    bool m_pressClosedIt = false;  // The press that took the activation away from the list has to arrive yet.
+    bool m_closedUnderPointer = false;  // By losing the activation while the pointer was over the item,
+    DWORD m_closedAt = 0;               // at this time of the system's clock.
 };

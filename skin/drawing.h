@@ -59,12 +59,12 @@ private:
 };
 
 /// The device context of a window's client area, for drawing outside WM_PAINT.
-class CWindowDC {
+class CBorrowedDC {
 public:
-    explicit CWindowDC(HWND window) : m_window(window), m_dc(::GetDC(window)) {}
-    ~CWindowDC() { ::ReleaseDC(m_window, m_dc); }
-    CWindowDC(const CWindowDC&) = delete;
-    CWindowDC& operator=(const CWindowDC&) = delete;
+    explicit CBorrowedDC(HWND window) : m_window(window), m_dc(::GetDC(window)) {}
+    ~CBorrowedDC() { ::ReleaseDC(m_window, m_dc); }
+    CBorrowedDC(const CBorrowedDC&) = delete;
+    CBorrowedDC& operator=(const CBorrowedDC&) = delete;
 
     operator HDC() const { return m_dc; }
 

@@ -112,7 +112,7 @@ const Gdiplus::Font& MatchingFont(HFONT gdiFont) {
         LOGFONTW description{};
         ::GetObjectW(gdiFont, sizeof(description), &description);
         FontFamilyFor(description.lfFaceName).GetFamilyName(description.lfFaceName);
-        const CWindowDC screen(nullptr);
+        const CBorrowedDC screen(nullptr);
         font = std::make_unique<Gdiplus::Font>(screen, &description);
     }
     return *font;

@@ -43,7 +43,7 @@ void CHintTip::ShowTip(LPCWSTR text, int x, int y, int duration) {
     m_text = text;
 
     const CSize size = [this] {
-        const CWindowDC dc(m_hWnd);
+        const CBorrowedDC dc(m_hWnd);
         const Gdiplus::Graphics graphics(dc);
         const Gdiplus::SizeF measured = MeasureText(graphics, m_text, TextFontOfTip(), TextLayout::Tip);
         return CSize(static_cast<int>(measured.Width), static_cast<int>(measured.Height) + 2);

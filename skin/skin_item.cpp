@@ -54,7 +54,7 @@ void CSkinItem::SetRect(const CRect& rect, bool redraw) {
 
 void CSkinItem::Draw() {
     if (!m_visible || m_rect.IsRectEmpty() || !::IsWindowVisible(m_parent)) return;
-    const CWindowDC screen(m_parent);
+    const CBorrowedDC screen(m_parent);
     const CBufferedPaint buffer(screen, m_rect);
     buffer.CopyFrom(m_background);
     Paint(buffer.Dc(), buffer.Size());

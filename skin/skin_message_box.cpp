@@ -15,6 +15,10 @@ constexpr int kTextMargin = 8;
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(CMessageText, CRichEditCtrl)
+    ON_WM_GETDLGCODE()
+END_MESSAGE_MAP()
+
 BEGIN_MESSAGE_MAP(CSkinMessageBox, CSkinDialog)
     ON_COMMAND(IDYES, OnYes)
     ON_COMMAND(IDNO, OnNo)
@@ -73,10 +77,7 @@ BOOL CSkinMessageBox::OnInitDialog() {
     format.crTextColor = kTextColor;
     m_text.SetWindowText(m_message);
     m_text.SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
-    // The text starts unselected: a click into it drops the selection.
-    m_text.SendMessage(EM_GETBIDIOPTIONS);
-    m_text.PostMessage(WM_LBUTTONDOWN);
-    m_text.PostMessage(WM_LBUTTONUP);
+    m_text.SendMessage(EM_SETSEL, 0, 0);
     return TRUE;
 }
 

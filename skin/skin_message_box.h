@@ -7,6 +7,13 @@
 
 enum class MessageButtons : int { Answer = 1, YesNo = 4 };
 
+/// The text: it scrolls by the arrow keys and leaves all other keys, and what is selected, to the dialog.
+class CMessageText : public CRichEditCtrl {
+protected:
+    afx_msg UINT OnGetDlgCode() { return DLGC_WANTARROWS; }
+    DECLARE_MESSAGE_MAP()
+};
+
 class CSkinMessageBox : public CSkinDialog {
 public:
     /// @param title   Null for "Message". Both texts are borrowed until DoModal returns; the text may be null.
@@ -29,7 +36,7 @@ private:
     LPCWSTR m_message;
     MessageButtons m_buttons;
     bool m_extras;
-    CRichEditCtrl m_text;
+    CMessageText m_text;
     CSkinButton m_yesButton;
     CSkinButton m_noButton;
     CSkinButton m_saveInfoButton;

@@ -46,13 +46,13 @@ void CSkinSlider::SetPosition(double position) {
     if (std::abs(m_position - position) < kSamePosition) return;
     m_position = position > m_maximum ? m_maximum : position < m_minimum ? m_minimum : position;
     OnPositionChanged();
-    if (IsWindowVisible()) Paint(CWindowDC(m_hWnd));
+    if (IsWindowVisible()) Paint(CBorrowedDC(m_hWnd));
 }
 
 void CSkinSlider::Enable(bool enable) {
     if (enable == (IsWindowEnabled() != FALSE)) return;
     EnableWindow(enable);
-    if (IsWindowVisible()) Paint(CWindowDC(m_hWnd));
+    if (IsWindowVisible()) Paint(CBorrowedDC(m_hWnd));
 }
 
 CRect CSkinSlider::Bounds() const {

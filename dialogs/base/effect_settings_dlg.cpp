@@ -122,7 +122,7 @@ void CEffectSettingsDlg::OnOK() {
 void CEffectSettingsDlg::PaintControls(const CRect& area) {
     CSkinDialog::PaintControls(area);
     CRect touched;
-    if (touched.IntersectRect(m_helpRect, area)) PaintHelpPanel(CWindowDC(m_hWnd), m_helpRect, m_helpText);
+    if (touched.IntersectRect(m_helpRect, area)) PaintHelpPanel(CBorrowedDC(m_hWnd), m_helpRect, m_helpText);
 }
 
 BOOL CEffectSettingsDlg::PreTranslateMessage(MSG* message) {
@@ -144,5 +144,5 @@ void CEffectSettingsDlg::ShowHelpAt(CPoint point) {
     }
     if (m_helpText.CompareNoCase(help) == 0) return;
     m_helpText = help;
-    PaintHelpPanel(CWindowDC(m_hWnd), m_helpRect, m_helpText);
+    PaintHelpPanel(CBorrowedDC(m_hWnd), m_helpRect, m_helpText);
 }
