@@ -1,4 +1,7 @@
 // The demo host: plays a clip and opens the settings dialog of an effect over it.
+#include <fcntl.h>
+#include <io.h>
+
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -198,6 +201,7 @@ int Run(const Options& options) {
 }  // namespace
 
 int main() {
+    ::_setmode(::_fileno(stdout), _O_BINARY);  // Lines end as scripts on either side expect them.
     const std::optional<Options> options = ParseCommandLine();
     if (!options) return kExitUsage;
     ULONG_PTR gdiplus = 0;

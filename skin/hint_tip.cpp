@@ -44,7 +44,7 @@ void CHintTip::ShowTip(LPCWSTR text, int x, int y, int duration) {
 
     const CSize size = [this] {
         const CBorrowedDC dc(m_hWnd);
-        const Gdiplus::Graphics graphics(dc);
+        const CTextGraphics graphics(dc);  // Letters are as wide here as when they are drawn.
         const Gdiplus::SizeF measured = MeasureText(graphics, m_text, TextFontOfTip(), TextLayout::Tip);
         return CSize(static_cast<int>(measured.Width), static_cast<int>(measured.Height) + 2);
     }();
