@@ -94,7 +94,7 @@ void CSkinDialog::OnSize(UINT type, int cx, int cy) {
 void CSkinDialog::CreateBackground() {
     const int width = ClientRect().Width();
     const int height = ClientRect().Height();
-    const HDC display = ::CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr);
+    const CBorrowedDC display(nullptr);
     CBitmapHandle background{::CreateCompatibleBitmap(display, width, height)};
     {
         const CMemoryDC dc(display, background.Get());
@@ -113,7 +113,6 @@ void CSkinDialog::CreateBackground() {
         DrawLines(dc, topLeftCorner, 2, kAccentColor);
         DrawLines(dc, separator, 2, kAccentColor);
     }
-    ::DeleteDC(display);
     m_background = std::move(background);
     SetSkinBackground(m_background.Get());
     LayoutControls();
@@ -135,9 +134,15 @@ void CSkinDialog::LayoutControls() {
 
 BOOL CSkinDialog::OnEraseBkgnd(CDC* dc) {
     if (!m_background) return CDialog::OnEraseBkgnd(dc);
-    const CBufferedPaint buffer(dc->GetSafeHdc(), ClientRect());
-    buffer.CopyFrom(m_background.Get());
-    DrawTitle(buffer.Dc());
+    const HDC target = dc->GetSafeHdc();
+    const CRect client = ClientRect();
+    {
+        const CBufferedPaint titleBar(target, CRect(0, 0, client.right, kTitleHeight));
+        titleBar.CopyFrom(m_background.Get());
+        DrawTitle(titleBar.Dc());
+    }
+    const CMemoryDC background(target, m_background.Get());
+    ::BitBlt(target, 0, kTitleHeight, client.right, client.bottom - kTitleHeight, background, 0, kTitleHeight, SRCCOPY);
     return TRUE;
 }
 
