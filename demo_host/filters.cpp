@@ -3,24 +3,11 @@
 #include <array>
 #include <cmath>
 
+#include "demo_host/filter_recorders.h"
 #include "demo_host/trace.h"
 #include "effect_settings/effect_filters.h"
 
 namespace {
-
-class CPassThrough : public CComObject<IDemoProcessor> {
-public:
-    explicit CPassThrough(const Effect& effect) : m_effect(effect) {}
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        return Answer(object, iid == IID_IUnknown || iid == IID_IDemoProcessor ? this : nullptr);
-    }
-    const Effect& EffectOf() const override { return m_effect; }
-    void Process(Frame&) override {}
-
-private:
-    const Effect& m_effect;
-};
 
 /// A processor with the property interface of its effect.
 template <typename Properties, const IID& PropertiesId>
@@ -35,8 +22,27 @@ public:
     }
     const Effect& EffectOf() const override { return m_effect; }
 
+protected:
+    /// Writes a call of a setter to the trace.
+    template <typename... Values>
+    HRESULT Record(const char* setter, Values... values) {
+        std::string line = std::string("filter.") + setter + "(";
+        const char* separator = "";
+        ((line += separator + std::to_string(values), separator = ", "), ...);
+        Trace(line + ")");
+        return S_OK;
+    }
+
 private:
     const Effect& m_effect;
+};
+
+/// One that takes its values and leaves the picture as it is.
+template <typename Properties, const IID& PropertiesId>
+class CPassThrough : public CFilter<Properties, PropertiesId> {
+public:
+    using CFilter<Properties, PropertiesId>::CFilter;
+    void Process(Frame&) override {}
 };
 
 /// out = 255 * (in / 255) ^ (100 / factor): a power law, brighter above a factor of 100, darker below.
@@ -71,13 +77,79 @@ private:
     std::array<std::uint8_t, 256> m_table{};
 };
 
+/// For effects without an interface of their own.
+class CPlainPassThrough : public CComObject<IDemoProcessor> {
+public:
+    explicit CPlainPassThrough(const Effect& effect) : m_effect(effect) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        return Answer(object, iid == IID_IUnknown || iid == IID_IDemoProcessor ? this : nullptr);
+    }
+    const Effect& EffectOf() const override { return m_effect; }
+    void Process(Frame&) override {}
+
+private:
+    const Effect& m_effect;
+};
+
 }  // namespace
 
 ComPtr<IDemoProcessor> MakeProcessor(const Effect& effect) {
     switch (effect.id) {
         case EffectId::GammaCorrection:
             return Adopt<IDemoProcessor>(new CGammaFilter(effect));
+        case EffectId::AutoContrast:
+            return Adopt<IDemoProcessor>(
+                new SwitchRecorder<CPassThrough<IEffectAutoContrast, IID_IEffectAutoContrast>>(effect));
+        case EffectId::AutoIntensity:
+            return Adopt<IDemoProcessor>(
+                new SwitchRecorder<CPassThrough<IEffectAutoIntensity, IID_IEffectAutoIntensity>>(effect));
+        case EffectId::AutoLevel:
+            return Adopt<IDemoProcessor>(
+                new SwitchRecorder<CPassThrough<IEffectAutoLevel, IID_IEffectAutoLevel>>(effect));
+        case EffectId::Brightness:
+            return Adopt<IDemoProcessor>(
+                new BrightnessRecorder<CPassThrough<IEffectBrightness, IID_IEffectBrightness>>(effect));
+        case EffectId::Deblocking:
+            return Adopt<IDemoProcessor>(
+                new DeblockingRecorder<CPassThrough<IEffectDeblocking, IID_IEffectDeblocking>>(effect));
+        case EffectId::EdgeEnhance:
+            return Adopt<IDemoProcessor>(
+                new EdgeEnhanceRecorder<CPassThrough<IEffectEdgeEnhance, IID_IEffectEdgeEnhance>>(effect));
+        case EffectId::Fire:
+            return Adopt<IDemoProcessor>(new FireRecorder<CPassThrough<IEffectFire, IID_IEffectFire>>(effect));
+        case EffectId::Hologram:
+            return Adopt<IDemoProcessor>(
+                new HologramRecorder<CPassThrough<IEffectHologram, IID_IEffectHologram>>(effect));
+        case EffectId::Lightning:
+            return Adopt<IDemoProcessor>(
+                new LightningRecorder<CPassThrough<IEffectLightning, IID_IEffectLightning>>(effect));
+        case EffectId::MotionBlur:
+            return Adopt<IDemoProcessor>(
+                new MotionBlurRecorder<CPassThrough<IEffectMotionBlur, IID_IEffectMotionBlur>>(effect));
+        case EffectId::MotionEmboss:
+            return Adopt<IDemoProcessor>(
+                new MotionEmbossRecorder<CPassThrough<IEffectMotionEmboss, IID_IEffectMotionEmboss>>(effect));
+        case EffectId::MotionMosaic:
+            return Adopt<IDemoProcessor>(
+                new MotionMosaicRecorder<CPassThrough<IEffectMotionMosaic, IID_IEffectMotionMosaic>>(effect));
+        case EffectId::Particles:
+            return Adopt<IDemoProcessor>(
+                new ParticlesRecorder<CPassThrough<IEffectParticles, IID_IEffectParticles>>(effect));
+        case EffectId::Streak:
+            return Adopt<IDemoProcessor>(new StreakRecorder<CPassThrough<IEffectStreak, IID_IEffectStreak>>(effect));
+        case EffectId::Wave:
+            return Adopt<IDemoProcessor>(new WaveRecorder<CPassThrough<IEffectWave, IID_IEffectWave>>(effect));
+        case EffectId::UnsharpMask:
+            return Adopt<IDemoProcessor>(
+                new UnsharpMaskRecorder<CPassThrough<IEffectUnsharpMask, IID_IEffectUnsharpMask>>(effect));
+        case EffectId::VideoRotation:
+            return Adopt<IDemoProcessor>(
+                new VideoRotationRecorder<CPassThrough<IEffectVideoRotation, IID_IEffectVideoRotation>>(effect));
+        case EffectId::AudioChorus:
+            return Adopt<IDemoProcessor>(
+                new AudioChorusRecorder<CPassThrough<IEffectAudioChorus, IID_IEffectAudioChorus>>(effect));
         default:
-            return Adopt<IDemoProcessor>(new CPassThrough(effect));
+            return Adopt<IDemoProcessor>(new CPlainPassThrough(effect));
     }
 }

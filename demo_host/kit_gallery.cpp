@@ -85,7 +85,7 @@ private:
         Keep(std::move(item));
         return added;
     }
-    void AddLabel(LPCWSTR text, const CRect& rect, COLORREF color = Darken(kTextColor, 80));
+    void AddText(LPCWSTR text, const CRect& rect, COLORREF color = Darken(kTextColor, 80));
     /// One row: the live item, the frozen states and one with a long text.
     template <typename Item, typename Prepare>
     void AddRow(int row, LPCWSTR label, LPCWSTR text, LPCWSTR longText, Prepare prepare);
@@ -121,7 +121,7 @@ BEGIN_MESSAGE_MAP(CKitGalleryDlg, CSkinDialog)
     ON_MESSAGE(WM_SKIN_SLIDER, OnSliderChange)
 END_MESSAGE_MAP()
 
-void CKitGalleryDlg::AddLabel(LPCWSTR text, const CRect& rect, COLORREF color) {
+void CKitGalleryDlg::AddText(LPCWSTR text, const CRect& rect, COLORREF color) {
     auto& label = Add<CSkinStatic>(text, rect);
     label.SetFont(LabelFont());
     label.SetLeftAligned(true);
@@ -130,7 +130,7 @@ void CKitGalleryDlg::AddLabel(LPCWSTR text, const CRect& rect, COLORREF color) {
 
 template <typename Item, typename Prepare>
 void CKitGalleryDlg::AddRow(int row, LPCWSTR label, LPCWSTR text, LPCWSTR longText, Prepare prepare) {
-    AddLabel(label, CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
+    AddText(label, CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     prepare(Add<Item>(text, Cell(kNormal, row)));
     for (int column = kHover; column <= kDisabled; ++column) {
         auto& item = Add<Frozen<Item>>(text, Cell(column, row));
@@ -142,7 +142,7 @@ void CKitGalleryDlg::AddRow(int row, LPCWSTR label, LPCWSTR text, LPCWSTR longTe
 
 template <typename Item, typename Setup>
 void CKitGalleryDlg::AddOwnRow(int row, LPCWSTR label, Setup setUp) {
-    AddLabel(label, CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
+    AddText(label, CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     for (int column = kNormal; column <= kLong; ++column) {
         if (column == kNormal || column == kLong) {
             auto item = std::make_unique<Item>();
@@ -186,7 +186,7 @@ void CKitGalleryDlg::AddSliderRow(int row) {
                    {L"Slider, disabled", 50, false}};
     for (const auto& setup : sliders) {
         const CRect cell = Cell(0, row++);
-        AddLabel(setup.label, CRect(kLabelLeft, cell.top, kFirstColumn, cell.bottom));
+        AddText(setup.label, CRect(kLabelLeft, cell.top, kFirstColumn, cell.bottom));
         CSkinSlider& slider = m_sliders.emplace_back();
         slider.Create(WS_CHILD | WS_VISIBLE, CRect(cell.left, cell.top, cell.left + 415, cell.bottom), this, kNoId);
         slider.SetPosition(setup.position);
@@ -200,7 +200,7 @@ bool CKitGalleryDlg::CreateControls() {
     for (int column = kNormal; column <= kLong; ++column) {
         CRect heading = Cell(column, 0);
         heading.OffsetRect(0, -30);
-        AddLabel(headings[column], heading, kOrangeColor);
+        AddText(headings[column], heading, kOrangeColor);
     }
     const auto asIs = [](auto&) {};
     const auto checked = [](auto& item) { item.SetChecked(true); };
@@ -222,7 +222,7 @@ bool CKitGalleryDlg::CreateControls() {
     AddRow<CSkinRadioButton>(row++, L"Radio button, selected", L"Radio button", L"A caption that is too long", checked);
     AddRow<CColorSwatch>(row++, L"Colour swatch", L"", L"", [](CColorSwatch& swatch) { swatch.SetColor(kGreenColor); });
     AddEditRow(row++);
-    AddLabel(L"Pop-up tip", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
+    AddText(L"Pop-up tip", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     Add<CSkinButton>(L"Point here", Cell(kNormal, row)).SetTipText(kTip);
     m_tipRow = row;
     m_radios[0] = &Add<CSkinRadioButton>(L"This one", Cell(kDisabled, row), kFirstRadioId);

@@ -2,9 +2,11 @@
 #include <fcntl.h>
 #include <io.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <windows.h>
@@ -28,6 +30,8 @@ constexpr int kExitLeak = 3;
 
 // The library starts the preview half a second after the dialog opened; by now it runs.
 constexpr UINT kScreenshotDelayMs = 1500;
+constexpr UINT kClickDelayMs = 200;
+constexpr LPARAM kOnEnable = MAKELPARAM(40, 305);
 // Records of effects that the demo has no fields for: larger than any of them.
 constexpr std::size_t kLargestRecord = 32;
 
@@ -37,6 +41,7 @@ constexpr char kHelp[] =
     "  --list             list the effects\n"
     "  --media FILE       play a picture (PNG, JPEG, BMP, GIF) instead of the generated scene\n"
     "  --screenshot FILE  write a picture of the dialog and close it\n"
+    "  --gallery FOLDER   write a picture of every dialog, and one with \"Enable\" off\n"
     "  --trace            print every call on host and filter\n"
     "  --kit              show the gallery of controls instead of a dialog\n"
     "  --help             this text";
@@ -45,6 +50,8 @@ struct Options {
     const Effect* effect = nullptr;
     std::wstring media;
     std::wstring screenshot;
+    std::wstring screenshotWhenOff;
+    std::wstring gallery;
     bool trace = false;
     bool list = false;
     bool kit = false;
@@ -89,6 +96,8 @@ std::optional<Options> ParseCommandLine() {
             hasValue = takeFile(options.media);
         } else if (argument == L"--screenshot") {
             hasValue = takeFile(options.screenshot);
+        } else if (argument == L"--gallery") {
+            hasValue = takeFile(options.gallery);
         } else if (argument.starts_with(L'-')) {
             Complain(L"unknown option '" + argument + L"'; --help lists them");
             return std::nullopt;
@@ -130,17 +139,27 @@ const char* NameOf(std::int32_t result) {
     }
 }
 
-// Takes the picture from inside the dialog's message loop, and closes the dialog.
-const CPlayer* g_photographed = nullptr;
-std::wstring g_screenshotFile;
-bool g_screenshotSaved = false;
+// Takes pictures from inside the dialog's message loop, and closes the dialog after the last.
+struct Photographer {
+    const CPlayer* player = nullptr;
+    std::wstring file;
+    std::wstring fileWhenOff;  ///< Of the dialog after a click on "Enable"; empty for none.
+    bool succeeded = true;
+};
+Photographer g_photographer;
 
-void CALLBACK TakeScreenshot(HWND, UINT, UINT_PTR timer, DWORD) {
+void CALLBACK TakePicture(HWND, UINT, UINT_PTR timer, DWORD) {
     ::KillTimer(nullptr, timer);
-    const HWND dialog = g_photographed->Dialog();
+    const HWND dialog = g_photographer.player->Dialog();
     if (!dialog) return;
-    g_screenshotSaved = SaveScreenOf(dialog, g_screenshotFile);
-    ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+    g_photographer.succeeded = SaveScreenOf(dialog, g_photographer.file) && g_photographer.succeeded;
+    if (g_photographer.fileWhenOff.empty()) {
+        ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+        return;
+    }
+    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::PostMessageW(dialog, message, 0, kOnEnable);
+    g_photographer.file = std::exchange(g_photographer.fileWhenOff, {});
+    ::SetTimer(nullptr, 0, kClickDelayMs, TakePicture);
 }
 
 int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
@@ -151,9 +170,8 @@ int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
         return kExitFailed;
     }
     if (!options.screenshot.empty()) {
-        g_photographed = player.Get();
-        g_screenshotFile = options.screenshot;
-        ::SetTimer(nullptr, 0, kScreenshotDelayMs, TakeScreenshot);
+        g_photographer = {player.Get(), options.screenshot, options.screenshotWhenOff};
+        ::SetTimer(nullptr, 0, kScreenshotDelayMs, TakePicture);
     }
 
     std::vector<std::int32_t> record;
@@ -169,12 +187,30 @@ int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
     PrintRecord("after", effect, record);
     player->Close();
 
-    if (options.screenshot.empty()) return kExitOk;
-    if (!g_screenshotSaved) {
+    if (!g_photographer.succeeded) {
         Complain(L"the picture can't be written to '" + options.screenshot + L"'");
         return kExitFailed;
     }
     return kExitOk;
+}
+
+std::unique_ptr<IClip> OpenClip(const Options& options) {
+    return options.media.empty() ? MakeSceneClip() : LoadClip(options.media);
+}
+
+/// A picture of every dialog, and one more with "Enable" off.
+int WriteGallery(Options options) {
+    ::CreateDirectoryW(options.gallery.c_str(), nullptr);
+    int exitCode = kExitOk;
+    for (const Effect& effect : AllEffects()) {
+        const std::string name = effect.name;
+        options.effect = &effect;
+        options.screenshot = options.gallery + L"\\" + std::wstring(name.begin(), name.end()) + L".png";
+        options.screenshotWhenOff = options.gallery + L"\\" + std::wstring(name.begin(), name.end()) + L"-off.png";
+        std::printf("%s\n", effect.name);
+        exitCode = (std::max)(exitCode, ShowDialog(options, OpenClip(options)));
+    }
+    return exitCode;
 }
 
 int Run(const Options& options) {
@@ -188,9 +224,10 @@ int Run(const Options& options) {
     }
     if (options.trace) EnableTrace();
     if (options.kit) return ShowKitGallery(options.screenshot);
-    std::unique_ptr<IClip> clip = options.media.empty() ? MakeSceneClip() : LoadClip(options.media);
+    std::unique_ptr<IClip> clip = OpenClip(options);
     if (!clip) return Complain(L"can't read a picture from '" + options.media + L"'");
-    const int exitCode = ShowDialog(options, std::move(clip));
+    const int exitCode = options.gallery.empty() ? ShowDialog(options, std::move(clip)) : WriteGallery(options);
+    clip.reset();
     if (g_liveObjects != 0) {
         std::fprintf(stderr, "demo: %ld objects were not released\n", g_liveObjects);
         return kExitLeak;

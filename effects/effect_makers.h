@@ -1,8 +1,26 @@
-// The maker functions of the effect dialogs, one per source.
+// The maker functions of the effect dialogs, each at the end of its dialog's source.
 #pragma once
 
 #include <memory>
 
 #include <afxwin.h>
 
+std::unique_ptr<CDialog> MakeAutoContrastDlg();
+std::unique_ptr<CDialog> MakeAutoIntensityDlg();
+std::unique_ptr<CDialog> MakeAutoLevelDlg();
+std::unique_ptr<CDialog> MakeBrightnessDlg();
+std::unique_ptr<CDialog> MakeDeblockingDlg();
+std::unique_ptr<CDialog> MakeEdgeEnhanceDlg();
+std::unique_ptr<CDialog> MakeFireDlg();
+std::unique_ptr<CDialog> MakeHologramDlg();
+std::unique_ptr<CDialog> MakeLightningDlg();
+std::unique_ptr<CDialog> MakeMotionBlurDlg();
+std::unique_ptr<CDialog> MakeMotionEmbossDlg();
+std::unique_ptr<CDialog> MakeMotionMosaicDlg();
+std::unique_ptr<CDialog> MakeParticlesDlg();
+std::unique_ptr<CDialog> MakeStreakDlg();
+std::unique_ptr<CDialog> MakeWaveDlg();
 std::unique_ptr<CDialog> MakeGammaCorrectionDlg();
+std::unique_ptr<CDialog> MakeUnsharpMaskDlg();
+std::unique_ptr<CDialog> MakeVideoRotationDlg();
+std::unique_ptr<CDialog> MakeAudioChorusDlg();

@@ -2,28 +2,14 @@
 
 #include "skin/numbers.h"
 
-namespace {
-
-constexpr UINT kLabelId = 99;
-
-bool CreateLabel(CSkinStatic& label, CSkinDialog& dialog, LPCWSTR text) {
-    if (!label.Create(text, &dialog, CRect(0, 0, 0, 0), kLabelId)) return false;
-    label.SetFont(LabelFont());
-    label.SetLeftAligned(true);
-    dialog.AddControl(label);
-    return true;
-}
-
-}  // namespace
-
 bool CValueSlider::Create(CSkinDialog& dialog, const Setup& setup) {
     m_offset = setup.offset;
-    if (setup.label && !CreateLabel(m_label, dialog, setup.label)) return false;
+    if (setup.label && !dialog.AddLabel(m_label, setup.label)) return false;
     if (!CSkinSlider::Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &dialog, setup.id)) return false;
     dialog.AddControl(*this, setup.help);
-    if (!CreateLabel(m_number, dialog, L"")) return false;
-    SetMaximum(setup.max);
-    SetMinimum(setup.min);
+    if (!dialog.AddLabel(m_number, L"")) return false;
+    SetMaximum(static_cast<double>(setup.max) + setup.offset);
+    SetMinimum(static_cast<double>(setup.min) + setup.offset);
     SetValue(setup.value);
     ShowNumber(setup.value);
     return true;

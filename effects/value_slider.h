@@ -12,7 +12,7 @@ public:
         LPCWSTR label = nullptr;  ///< Null where something else stands in the label's place.
         int min;
         int max;
-        int offset = 0;  ///< The slider holds value + offset; min and max are positions.
+        int offset = 0;  ///< The slider holds value + offset.
         int value;
         LPCWSTR help;
     };

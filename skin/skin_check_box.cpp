@@ -27,8 +27,8 @@ void CSkinCheckBox::Paint(HDC dc, CSize size) {
         : IsPressed() ? Darken(kOrangeColor, 30)
         : IsHovered() ? kOrangeColor
                       : Darken(kTextColor, 30);
-    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm), CRect(kCaptionLeft, 0, size.cx, size.cy),
-               TextLayout::LeftMiddle, OpaqueColor(color));
+    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm),
+               CRect(kCaptionLeft, 0, kCaptionLeft + size.cx, size.cy), TextLayout::LeftMiddle, OpaqueColor(color));
 }
 
 void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int y) const {

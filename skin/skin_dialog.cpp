@@ -6,6 +6,7 @@
 namespace {
 
 constexpr int kTitleHeight = 34;
+constexpr UINT kLabelId = 99;
 constexpr int kCornerDiameter = 5;
 
 // The window has no size, no controls and no border of its own: everything is placed and painted in code.
@@ -36,10 +37,16 @@ CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header); }
 
 void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) { m_controls.push_back({&control, help}); }
 
-bool CSkinDialog::AddButton(CSkinButton& button, LPCWSTR text, UINT id) {
-    if (!button.Create(text, this, CRect(0, 0, 0, 0), id)) return false;
-    AddControl(button);
+bool CSkinDialog::AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help) {
+    if (!item.Create(text, this, CRect(0, 0, 0, 0), id)) return false;
+    AddControl(item, help);
     return true;
+}
+
+bool CSkinDialog::AddLabel(CSkinStatic& label, LPCWSTR text) {
+    label.SetFont(LabelFont());
+    label.SetLeftAligned(true);
+    return AddItem(label, text, kLabelId);
 }
 
 int CSkinDialog::OnCreate(LPCREATESTRUCT create) {
@@ -49,8 +56,8 @@ int CSkinDialog::OnCreate(LPCREATESTRUCT create) {
 }
 
 bool CSkinDialog::CreateStandardControls() {
-    if (!AddButton(m_closeButton, L"", IDCANCEL) || !AddButton(m_cancelButton, L"Cancel", IDCANCEL) ||
-        !AddButton(m_okButton, L"OK", IDOK)) {
+    if (!AddItem(m_closeButton, L"", IDCANCEL) || !AddItem(m_cancelButton, L"Cancel", IDCANCEL) ||
+        !AddItem(m_okButton, L"OK", IDOK)) {
         return false;
     }
     m_closeButton.SetPicture(SkinFolder() + L"img\\btn\\dia-close.png");

@@ -9,6 +9,7 @@
 #include "skin/drawing.h"
 #include "skin/skin_button.h"
 #include "skin/skin_control.h"
+#include "skin/skin_static.h"
 
 class CSkinDialog : public CDialog {
 public:
@@ -18,6 +19,10 @@ public:
     /// adding. The control must live as long as the dialog.
     /// @param help  What the help panel says while the pointer is over the control; null for nothing. A literal.
     void AddControl(CSkinControl& control, LPCWSTR help = nullptr);
+    /// Creates an item with an empty rectangle and adds it.
+    bool AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help = nullptr);
+    /// Adds a label as all dialogs have them.
+    bool AddLabel(CSkinStatic& label, LPCWSTR text);
 
 protected:
     struct Entry {
@@ -40,8 +45,6 @@ protected:
     void PlaceWindow(int width, int height, LPCWSTR title);
     const std::vector<Entry>& Controls() const { return m_controls; }
     CRect ClientRect() const;
-    /// Creates a push button with an empty rectangle and adds it.
-    bool AddButton(CSkinButton& button, LPCWSTR text, UINT id);
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();

@@ -30,12 +30,12 @@ CSkinMessageBox::CSkinMessageBox(LPCWSTR title, LPCWSTR text, MessageButtons but
 
 bool CSkinMessageBox::CreateControls() {
     constexpr DWORD kTextStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_READONLY;
-    if (!m_text.Create(kTextStyle, CRect(0, 0, 0, 0), this, kTextId) || !AddButton(m_yesButton, L"Yes", IDYES) ||
-        !AddButton(m_noButton, L"No", IDNO)) {
+    if (!m_text.Create(kTextStyle, CRect(0, 0, 0, 0), this, kTextId) || !AddItem(m_yesButton, L"Yes", IDYES) ||
+        !AddItem(m_noButton, L"No", IDNO)) {
         return false;
     }
-    if (m_extras && (!AddButton(m_saveInfoButton, L"Save info", kSaveInfoId) ||
-                     !AddButton(m_getHelpButton, L"Get Help", kGetHelpId))) {
+    if (m_extras &&
+        (!AddItem(m_saveInfoButton, L"Save info", kSaveInfoId) || !AddItem(m_getHelpButton, L"Get Help", kGetHelpId))) {
         return false;
     }
     m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(ItemFont()), FALSE);

@@ -1,5 +1,7 @@
 #include "dialogs/base/effect_settings_dlg.h"
 
+#include <utility>
+
 #include "dialogs/base/help_panel.h"
 #include "entry/session.h"
 #include "host/preview.h"
@@ -8,6 +10,9 @@ namespace {
 
 constexpr UINT kDefaultButtonId = 3;
 constexpr UINT kEnableId = 10;
+// The ids of an effect's own controls; labels share the one after them.
+constexpr UINT kFirstOwnId = 11;
+constexpr UINT kLastOwnId = 98;
 constexpr UINT_PTR kPreviewTimer = 1;
 constexpr UINT kPreviewDelayMs = 500;
 
@@ -18,7 +23,10 @@ BEGIN_MESSAGE_MAP(CEffectSettingsDlg, CSkinDialog)
     ON_WM_TIMER()
     ON_COMMAND(kDefaultButtonId, OnSetAsDefault)
     ON_COMMAND(kEnableId, OnEnableCommand)
+    ON_COMMAND_RANGE(kFirstOwnId, kLastOwnId, OnOwnCommand)
+    ON_CONTROL_RANGE(EN_CHANGE, kFirstOwnId, kLastOwnId, OnEditChange)
     ON_MESSAGE(WM_SKIN_SLIDER, OnSliderChange)
+    ON_MESSAGE(WM_SKIN_COMBO_SELECT, OnComboSelect)
 END_MESSAGE_MAP()
 
 CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const EffectDialogOptions& options)
@@ -27,15 +35,13 @@ CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const EffectDialo
 bool CEffectSettingsDlg::CreateStandardControls() {
     const LPCWSTR blackPanel = AfxRegisterWndClass(
         0, ::LoadCursorW(nullptr, IDC_ARROW), static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), nullptr);
-    return CSkinDialog::CreateStandardControls() && AddButton(m_defaultButton, L"Set as default", kDefaultButtonId) &&
+    return CSkinDialog::CreateStandardControls() && AddItem(m_defaultButton, L"Set as default", kDefaultButtonId) &&
            m_preview.Create(blackPanel, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, m_options.previewId);
 }
 
 bool CEffectSettingsDlg::CreateEnable(std::int32_t checked) {
-    if (!m_enable.Create(L"Enable", this, CRect(0, 0, 0, 0), kEnableId)) return false;
     m_enable.SetChecked(checked != 0);
-    AddControl(m_enable, m_info.description);
-    return true;
+    return AddItem(m_enable, L"Enable", kEnableId, m_info.description);
 }
 
 void CEffectSettingsDlg::LayoutControls() {
@@ -111,6 +117,17 @@ LRESULT CEffectSettingsDlg::OnSliderChange(WPARAM wParam, LPARAM) {
     }
     ApplyToFilter();
     return 0;
+}
+
+void CEffectSettingsDlg::OnSetAsDefault() {
+    // Edits that are filled on the way push nothing of their own: the filter gets all defaults at once.
+    const bool wasLoading = std::exchange(m_loading, true);
+    ResetToDefaults();
+    m_loading = wasLoading;
+}
+
+void CEffectSettingsDlg::OnEditChange(UINT /*id*/) {
+    if (!m_loading) ApplyToFilter();
 }
 
 void CEffectSettingsDlg::OnOK() {

@@ -7,6 +7,7 @@
 #include <afxwin.h>
 
 #include "dialogs/base/effect_info.h"
+#include "skin/combo_list_box.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_dialog.h"
 #include "skin/skin_slider.h"
@@ -32,6 +33,8 @@ protected:
     virtual void SaveSettings() {}            ///< Writes the caller's record.
     virtual void ResetToDefaults() {}         ///< "Set as default": back to the effect's defaults, and a push.
     virtual void OnEnableClicked() { SyncAndApply(); }
+    virtual void OnClicked(UINT /*id*/) { ApplyToFilter(); }  ///< Any of the effect's own boxes and buttons.
+    virtual void OnPicked(const void* /*list*/) {}            ///< A row of a drop-down list.
 
     virtual void ConnectFilter(IUnknown& processor) = 0;
     virtual void ReleaseFilter() = 0;
@@ -39,8 +42,6 @@ protected:
     /// Creates the check box that every effect has first, with the effect's description as its help.
     bool CreateEnable(std::int32_t checked);
     void SyncAndApply();
-    /// Set until the dialog is fully open; edits that are filled meanwhile push nothing.
-    bool IsLoading() const { return m_loading; }
     const EffectInfo& Info() const { return m_info; }
 
     /// A rectangle as tall as a row of controls, in client coordinates.
@@ -57,9 +58,15 @@ protected:
 
     afx_msg void OnDestroy();
     afx_msg void OnTimer(UINT_PTR timer);
-    afx_msg void OnSetAsDefault() { ResetToDefaults(); }
+    afx_msg void OnSetAsDefault();
     afx_msg void OnEnableCommand() { OnEnableClicked(); }
+    afx_msg void OnOwnCommand(UINT id) { OnClicked(id); }
+    afx_msg void OnEditChange(UINT id);
     afx_msg LRESULT OnSliderChange(WPARAM info, LPARAM);
+    afx_msg LRESULT OnComboSelect(WPARAM list, LPARAM) {
+        OnPicked(reinterpret_cast<const void*>(list));
+        return 0;
+    }
     DECLARE_MESSAGE_MAP()
 
     CSkinCheckBox m_enable;
@@ -78,6 +85,6 @@ private:
     CWnd m_preview;
     CSkinButton m_defaultButton;
     CString m_helpText;
-    bool m_loading = true;
+    bool m_loading = true;        // Until the dialog is fully open; edits that are filled meanwhile push nothing.
     bool m_hostInformed = false;  // Whether the host knows of this dialog, so that closing has to tell it.
 };

@@ -118,6 +118,298 @@ struct IEffectGammaCorrection : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams params) = 0;
 };
 
+/// The common head of the interfaces that derive from IDispatch, whose slots 3 to 6 are never called by the library.
+/// In all of them switches travel as VARIANT_TRUE or VARIANT_FALSE and numbers as LONG.
+struct IEffectDispatch : IDispatch {
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+        return E_NOTIMPL;
+    }
+};
+
+/// The head of those whose switch lies at slot 8.
+struct IEffectSwitch : IEffectDispatch {
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    /// Slot 8. Switches the effect on (VARIANT_TRUE) or off (VARIANT_FALSE).
+    virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
+};
+
+/// Auto Contrast (EffectId 1), IID_IEffectAutoContrast.
+struct IEffectAutoContrast : IEffectSwitch {};
+
+/// Auto Intensity (EffectId 2), IID_IEffectAutoIntensity.
+struct IEffectAutoIntensity : IEffectSwitch {};
+
+/// Auto Level (EffectId 3), IID_IEffectAutoLevel.
+struct IEffectAutoLevel : IEffectSwitch {};
+
+/// Brightness (EffectId 4), IID_IEffectBrightness.
+struct IEffectBrightness : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    EFFECT_SETTINGS_RESERVED_SLOT(10)
+    /// Slot 11. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    /// Slot 13. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    /// Slot 15. Change of the brightness of what moves, -1000 to 1000.
+    virtual HRESULT STDMETHODCALLTYPE put_Brightness(LONG brightness) = 0;
+};
+
+/// Deblocking (EffectId 6), IID_IEffectDeblocking.
+struct IEffectDeblocking : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. 0 filters two lines at a block's edge, 1 four.
+    virtual HRESULT STDMETHODCALLTYPE put_Algorithm(LONG algorithm) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12. In pixels of the processed frame.
+    virtual HRESULT STDMETHODCALLTYPE put_BlockWidth(LONG width) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    /// Slot 14. In pixels of the processed frame.
+    virtual HRESULT STDMETHODCALLTYPE put_BlockHeight(LONG height) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(15)
+    /// Slot 16. Where the grid of blocks starts, in pixels of the processed frame.
+    virtual HRESULT STDMETHODCALLTYPE put_BlockOffsetX(LONG x) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(17)
+    /// Slot 18. Where the grid of blocks starts, in pixels of the processed frame.
+    virtual HRESULT STDMETHODCALLTYPE put_BlockOffsetY(LONG y) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 0 preserves all edges, 255 smooths all; used by algorithm 1.
+    virtual HRESULT STDMETHODCALLTYPE put_EdgeThreshold(LONG threshold) = 0;
+};
+
+/// Edge Enhance (EffectId 7), IID_IEffectEdgeEnhance.
+struct IEffectEdgeEnhance : IEffectDispatch {
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    EFFECT_SETTINGS_RESERVED_SLOT(8)
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    EFFECT_SETTINGS_RESERVED_SLOT(10)
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    EFFECT_SETTINGS_RESERVED_SLOT(15)
+    /// Slot 16. Switches the effect on (VARIANT_TRUE) or off (VARIANT_FALSE).
+    virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(17)
+    /// Slot 18. VARIANT_TRUE applies the multiplier.
+    virtual HRESULT STDMETHODCALLTYPE put_EnableMultiplier(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. Factor for enhanced samples, 50 to 1000.
+    virtual HRESULT STDMETHODCALLTYPE put_Multiplier(LONG multiplier) = 0;
+};
+
+/// Fire (EffectId 11), IID_IEffectFire.
+struct IEffectFire : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. Any of the FlameDirection bits.
+    virtual HRESULT STDMETHODCALLTYPE put_FlameDirection(LONG directions) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12. 1 to 100; lower gives wider and higher flames.
+    virtual HRESULT STDMETHODCALLTYPE put_Decay(LONG decay) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    /// Slot 14. Which set of colours, 0 to 1000.
+    virtual HRESULT STDMETHODCALLTYPE put_ColorsOffset(LONG offset) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(15)
+    /// Slot 16. How many colours, 0 to 100 per cent.
+    virtual HRESULT STDMETHODCALLTYPE put_GradientLevel(LONG percent) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(17)
+    EFFECT_SETTINGS_RESERVED_SLOT(18)
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    EFFECT_SETTINGS_RESERVED_SLOT(20)
+    /// Slot 21. VARIANT_TRUE covers the whole object in flames.
+    virtual HRESULT STDMETHODCALLTYPE put_EntireObject(VARIANT_BOOL entire) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(22)
+    /// Slot 23. VARIANT_TRUE keeps the picture behind the object, VARIANT_FALSE makes it black.
+    virtual HRESULT STDMETHODCALLTYPE put_ShowBackground(VARIANT_BOOL show) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(24)
+    /// Slot 25. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(26)
+    /// Slot 27. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(28)
+    /// Slot 29. VARIANT_TRUE compares frames with a black one instead of a reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Hologram (EffectId 13), IID_IEffectHologram.
+struct IEffectHologram : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. Colour of the effect in degrees, 0 to 360.
+    virtual HRESULT STDMETHODCALLTYPE put_Hue(LONG hue) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    /// Slot 13. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    /// Slot 15. VARIANT_TRUE adds a line that moves upward.
+    virtual HRESULT STDMETHODCALLTYPE put_LineNoise(VARIANT_BOOL lineNoise) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(16)
+    /// Slot 17. Density of the noise, 1 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_Noise(LONG noise) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(18)
+    /// Slot 19. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(20)
+    /// Slot 21. VARIANT_TRUE compares frames with a black one instead of a reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Lightning (EffectId 15), IID_IEffectLightning.
+struct IEffectLightning : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    EFFECT_SETTINGS_RESERVED_SLOT(10)
+    /// Slot 11. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    /// Slot 13. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    /// Slot 15. VARIANT_TRUE compares frames with a black one instead of a reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Motion Blur (EffectId 17), IID_IEffectMotionBlur.
+struct IEffectMotionBlur : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. Colour of the effect in degrees, 0 to 360.
+    virtual HRESULT STDMETHODCALLTYPE put_Hue(LONG hue) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    /// Slot 14. Number of frames that make the blur, 1 to 200.
+    virtual HRESULT STDMETHODCALLTYPE put_IntervalFrames(LONG frames) = 0;
+};
+
+/// Motion Emboss (EffectId 18), IID_IEffectMotionEmboss.
+struct IEffectMotionEmboss : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    EFFECT_SETTINGS_RESERVED_SLOT(10)
+    /// Slot 11. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    /// Slot 13. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    /// Slot 15. VARIANT_TRUE embosses with a bump map.
+    virtual HRESULT STDMETHODCALLTYPE put_BumpMap(VARIANT_BOOL bumpMap) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(16)
+    /// Slot 17. 1 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_Depth(LONG depth) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(18)
+    /// Slot 19. Elevation of the light, 0 (outer) to 180 (inner).
+    virtual HRESULT STDMETHODCALLTYPE put_Elevation(LONG degrees) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(20)
+    /// Slot 21. Direction of the light, 0 to 360.
+    virtual HRESULT STDMETHODCALLTYPE put_LightAngle(LONG degrees) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(22)
+    /// Slot 23. VARIANT_TRUE compares frames with a black one instead of a reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Motion Mosaic (EffectId 19), IID_IEffectMotionMosaic.
+struct IEffectMotionMosaic : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. Side of a square, 1 to 64.
+    virtual HRESULT STDMETHODCALLTYPE put_SquareSize(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    /// Slot 15. VARIANT_TRUE makes the first frame the reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_FirstFrameReference(VARIANT_BOOL firstFrame) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(16)
+    /// Slot 17. VARIANT_TRUE compares frames with a black one instead of a reference frame.
+    virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Particles (EffectId 21), IID_IEffectParticles.
+struct IEffectParticles : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. 1 to 6.
+    virtual HRESULT STDMETHODCALLTYPE put_Distortion(LONG level) = 0;
+};
+
+/// Streak (EffectId 23), IID_IEffectStreak.
+struct IEffectStreak : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. VARIANT_TRUE shows an object in more than one place.
+    virtual HRESULT STDMETHODCALLTYPE put_HeavyMode(VARIANT_BOOL heavy) = 0;
+};
+
+/// Wave (EffectId 24), IID_IEffectWave.
+struct IEffectWave : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. 1 to 10.
+    virtual HRESULT STDMETHODCALLTYPE put_WaveSpeed(LONG speed) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+};
+
+/// Unsharp Mask (EffectId 28), IID_IEffectUnsharpMask.
+struct IEffectUnsharpMask : IEffectDispatch {
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    EFFECT_SETTINGS_RESERVED_SLOT(8)
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    EFFECT_SETTINGS_RESERVED_SLOT(10)
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    EFFECT_SETTINGS_RESERVED_SLOT(14)
+    EFFECT_SETTINGS_RESERVED_SLOT(15)
+    /// Slot 16. Switches the effect on (VARIANT_TRUE) or off (VARIANT_FALSE).
+    virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(17)
+    /// Slot 18. Smallest difference that is sharpened, 0 to 255.
+    virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. Of the neighbourhood that is blurred, 1 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_Radius(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. Of sharpening, 0 to 500.
+    virtual HRESULT STDMETHODCALLTYPE put_Amount(LONG amount) = 0;
+};
+
+/// Video Rotation (EffectId 29), IID_IEffectVideoRotation.
+struct IEffectVideoRotation : IEffectDispatch {
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    /// Slot 8. VARIANT_TRUE reverses the picture.
+    virtual HRESULT STDMETHODCALLTYPE put_Reverse(VARIANT_BOOL reverse) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10. VARIANT_TRUE flips the picture.
+    virtual HRESULT STDMETHODCALLTYPE put_Flip(VARIANT_BOOL flip) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    EFFECT_SETTINGS_RESERVED_SLOT(12)
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    /// Slot 14. 0, 90, 180 or 270. There is no switch: angle 0 without flip and reverse is off.
+    virtual HRESULT STDMETHODCALLTYPE put_Angle(LONG degrees) = 0;
+};
+
+/// What IEffectAudioChorus takes, by value.
+struct ChorusParams {
+    std::int32_t dryMix;       ///< Level of the unprocessed signal in per cent, -100 to 100.
+    std::int32_t wetMix;       ///< Level of the processed signal in per cent, -100 to 100.
+    std::int32_t delay;        ///< In milliseconds, 0 to 500.
+    std::int32_t feedback;     ///< In per cent, -100 to 100.
+    std::int32_t stereo;       ///< Phase difference between left and right in degrees, 0 to 180.
+    std::int32_t enabled;      ///< 0 or 1; with 0 the filter passes sound through.
+    std::int32_t reserved[6];  ///< Always 0.
+};
+static_assert(sizeof(ChorusParams) == 48);
+
+/// Audio Chorus (EffectId 30), IID_IEffectAudioChorus.
+struct IEffectAudioChorus : IUnknown {
+    /// Slot 3. Takes all values at once; the whole push of this effect.
+    virtual HRESULT STDMETHODCALLTYPE SetChorusParams(ChorusParams params) = 0;
+};
+
 #undef EFFECT_SETTINGS_RESERVED_SLOT
 
 #endif

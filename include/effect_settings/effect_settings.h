@@ -60,7 +60,9 @@ enum class EffectId : std::int32_t {
 inline constexpr std::int32_t kFirstEffectId = 1;
 inline constexpr std::int32_t kLastEffectId = 30;
 
-/// Any one of the records below: the one that belongs to the EffectId of the call.
+/// Any one of the records below: the one that belongs to the EffectId of the call. Records are owned by the host, read
+/// when the dialog opens and written only when the user presses OK. Values out of a range are clamped when shown and
+/// so come back clamped; "default" is what "Set as default" sets.
 using EffectSettingsRecord = void;
 
 /// Settings of the Gamma Correction effect (EffectId 26).
@@ -71,6 +73,187 @@ struct GammaCorrectionSettings {
         value;  ///< Gamma factor in hundredths: 1 to 500, 100 is neutral. Values outside are clamped when shown.
 };
 static_assert(sizeof(GammaCorrectionSettings) == 8);
+
+/// The bits of IEffectFire::put_FlameDirection and FireSettings::flameDirection; any of them together.
+enum FlameDirection : std::int32_t {
+    kFlameNorth = 0x001,
+    kFlameSouth = 0x002,
+    kFlameEast = 0x004,
+    kFlameWest = 0x008,
+    kFlameNorthEast = 0x010,
+    kFlameNorthWest = 0x020,
+    kFlameSouthEast = 0x040,
+    kFlameSouthWest = 0x080,
+    kFlameGlow = 0x100,  ///< All around the object.
+};
+
+/// Settings of the Auto Contrast effect (EffectId 1).
+struct AutoContrastSettings {
+    std::int32_t enabled;  ///< 0 or 1.
+};
+static_assert(sizeof(AutoContrastSettings) == 4);
+
+/// Settings of the Auto Intensity effect (EffectId 2).
+struct AutoIntensitySettings {
+    std::int32_t enabled;  ///< 0 or 1.
+};
+static_assert(sizeof(AutoIntensitySettings) == 4);
+
+/// Settings of the Auto Level effect (EffectId 3).
+struct AutoLevelSettings {
+    std::int32_t enabled;  ///< 0 or 1.
+};
+static_assert(sizeof(AutoLevelSettings) == 4);
+
+/// Settings of the Brightness effect (EffectId 4).
+struct BrightnessSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+    std::int32_t threshold;            ///< 1 to 100; default 50. Lower detects more movement.
+    std::int32_t brightness;           ///< -1000 to 1000; default 100.
+};
+static_assert(sizeof(BrightnessSettings) == 16);
+
+/// Settings of the Deblocking effect (EffectId 6).
+struct DeblockingSettings {
+    std::int32_t enabled;        ///< 0 or 1; default 1.
+    std::int32_t algorithm;      ///< 0 (two lines, the default) or 1 (four lines).
+    std::int32_t edgeThreshold;  ///< 0 to 255; default 48.
+    std::int32_t blockOffsetX;   ///< In pixels of the source video; default 0.
+    std::int32_t blockOffsetY;   ///< In pixels of the source video; default 0.
+    std::int32_t blockWidth;     ///< In pixels of the source video; default 8.
+    std::int32_t blockHeight;    ///< In pixels of the source video; default 8.
+};
+static_assert(sizeof(DeblockingSettings) == 28);
+
+/// Settings of the Edge Enhance effect (EffectId 7).
+struct EdgeEnhanceSettings {
+    std::int32_t enabled;            ///< 0 or 1; default 1.
+    std::int32_t multiplierEnabled;  ///< 0 or 1; default 1.
+    std::int32_t multiplier;         ///< 50 to 1000; default 100.
+};
+static_assert(sizeof(EdgeEnhanceSettings) == 12);
+
+/// Settings of the Fire effect (EffectId 11).
+struct FireSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t gradientLevel;        ///< 0 to 100 per cent; default 50.
+    std::int32_t colorsOffset;         ///< 0 to 1000; default 660.
+    std::int32_t decay;                ///< 1 to 100; default 15.
+    std::int32_t threshold;            ///< 1 to 100; default 50.
+    std::int32_t flameDirection;       ///< FlameDirection bits; others are dropped. Default kFlameNorth.
+    std::int32_t entireObject;         ///< 0 or 1; default 1.
+    std::int32_t showBackground;       ///< 0 or 1; default 0.
+    std::int32_t noReference;          ///< 0 or 1; default 0.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+};
+static_assert(sizeof(FireSettings) == 40);
+
+/// Settings of the Hologram effect (EffectId 13).
+struct HologramSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t hue;                  ///< 0 to 360 degrees; default 0.
+    std::int32_t noise;                ///< 1 to 100; default 10.
+    std::int32_t threshold;            ///< 1 to 100; default 50.
+    std::int32_t lineNoise;            ///< 0 or 1; default 1.
+    std::int32_t noReference;          ///< 0 or 1; default 0.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+};
+static_assert(sizeof(HologramSettings) == 28);
+
+/// Settings of the Lightning effect (EffectId 15).
+struct LightningSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t threshold;            ///< 1 to 100; default 50.
+    std::int32_t noReference;          ///< 0 or 1; default 0.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+};
+static_assert(sizeof(LightningSettings) == 16);
+
+/// Settings of the Motion Blur effect (EffectId 17).
+struct MotionBlurSettings {
+    std::int32_t enabled;         ///< 0 or 1; default 1.
+    std::int32_t hue;             ///< 0 to 360 degrees; default 0.
+    std::int32_t threshold;       ///< 1 to 100; default 50.
+    std::int32_t intervalFrames;  ///< 1 to 200 frames; default 2.
+};
+static_assert(sizeof(MotionBlurSettings) == 16);
+
+/// Settings of the Motion Emboss effect (EffectId 18).
+struct MotionEmbossSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t lightAngle;           ///< 0 to 360 degrees; default 180.
+    std::int32_t elevation;            ///< 0 to 180 degrees; default 90.
+    std::int32_t depth;                ///< 1 to 100; default 10.
+    std::int32_t threshold;            ///< 1 to 100; default 50.
+    std::int32_t bumpMap;              ///< 1 with a bump map, 0 without; default 0.
+    std::int32_t noReference;          ///< 0 or 1; default 0.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+};
+static_assert(sizeof(MotionEmbossSettings) == 32);
+
+/// Settings of the Motion Mosaic effect (EffectId 19).
+struct MotionMosaicSettings {
+    std::int32_t enabled;              ///< 0 or 1; default 1.
+    std::int32_t squareSize;           ///< 1 to 64 pixels; default 8.
+    std::int32_t threshold;            ///< 1 to 100; default 50.
+    std::int32_t noReference;          ///< 0 or 1; default 0.
+    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
+};
+static_assert(sizeof(MotionMosaicSettings) == 20);
+
+/// Settings of the Particles effect (EffectId 21).
+struct ParticlesSettings {
+    std::int32_t enabled;  ///< 0 or 1; default 1.
+    std::int32_t value;    ///< Distortion, 1 to 6; default 4.
+};
+static_assert(sizeof(ParticlesSettings) == 8);
+
+/// Settings of the Streak effect (EffectId 23).
+struct StreakSettings {
+    std::int32_t enabled;    ///< 0 or 1; default 1.
+    std::int32_t heavyMode;  ///< 0 or 1; default 0.
+};
+static_assert(sizeof(StreakSettings) == 8);
+
+/// Settings of the Wave effect (EffectId 24).
+struct WaveSettings {
+    std::int32_t enabled;    ///< 0 or 1; default 1.
+    std::int32_t waveSpeed;  ///< 1 to 10; default 2.
+    std::int32_t threshold;  ///< 1 to 100; default 70.
+};
+static_assert(sizeof(WaveSettings) == 12);
+
+/// Settings of the Unsharp Mask effect (EffectId 28).
+struct UnsharpMaskSettings {
+    std::int32_t enabled;    ///< 0 or 1; default 1.
+    std::int32_t amount;     ///< 0 to 500; default 250.
+    std::int32_t radius;     ///< 1 to 100 pixels; default 1.
+    std::int32_t threshold;  ///< 0 to 255; default 0.
+};
+static_assert(sizeof(UnsharpMaskSettings) == 16);
+
+/// Settings of the Video Rotation effect (EffectId 29).
+struct VideoRotationSettings {
+    std::int32_t enabled;  ///< 0 or 1; default 1.
+    std::int32_t reverse;  ///< 0 or 1; default 0.
+    std::int32_t flip;     ///< 0 or 1; default 0.
+    std::int32_t
+        angle;  ///< 0, 90, 180 or 270 degrees; default 0. Any other is set to 0 as soon as the dialog opens, even if it is then cancelled.
+};
+static_assert(sizeof(VideoRotationSettings) == 16);
+
+/// Settings of the Audio Chorus effect (EffectId 30).
+struct AudioChorusSettings {
+    std::int32_t enabled;        ///< 0 or 1; default 1.
+    std::int32_t combineWetDry;  ///< 0 or 1; comes back as it was.
+    std::int32_t dryMix;         ///< -100 to 100 per cent; default 70.
+    std::int32_t wetMix;         ///< -100 to 100 per cent; default 50.
+    std::int32_t delay;          ///< 0 to 500 milliseconds; default 500.
+    std::int32_t feedback;       ///< -100 to 100 per cent; default 25.
+    std::int32_t stereo;         ///< 0 to 180 degrees; default 90.
+};
+static_assert(sizeof(AudioChorusSettings) == 28);
 
 /// Results of ShowSettingsDialog.
 inline constexpr std::int32_t kSettingsNotShown = 0;     ///< No record, or no such effect: nothing was shown.

@@ -1,15 +1,8 @@
-// One recording filter for each property interface; the parameters are written down in their order.
+// The recording filter of each effect.
 #pragma once
 
+#include "demo_host/filter_recorders.h"
 #include "support/recording_host.h"
-
-class RecordingGamma : public RecordingFilter<IEffectGammaCorrection, IID_IEffectGammaCorrection> {
-public:
-    using RecordingFilter::RecordingFilter;
-    HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams params) override {
-        return Record("SetGammaParams", params.value, params.enabled, params.reserved1, params.reserved2);
-    }
-};
 
 /// For effects whose interface does not matter to a test.
 class RecordingPlain : public RecordingFilter<IUnknown, IID_IUnknown> {

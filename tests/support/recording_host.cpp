@@ -52,8 +52,61 @@ FilterOwner MakeFilter(Trace& trace, const bool& hasInterface) {
 
 FilterOwner MakeFilterFor(EffectId effect, Trace& trace, const bool& hasInterface) {
     switch (effect) {
+        case EffectId::AutoContrast:
+            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoContrast, IID_IEffectAutoContrast>>>(
+                trace, hasInterface);
+        case EffectId::AutoIntensity:
+            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoIntensity, IID_IEffectAutoIntensity>>>(
+                trace, hasInterface);
+        case EffectId::AutoLevel:
+            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoLevel, IID_IEffectAutoLevel>>>(
+                trace, hasInterface);
+        case EffectId::Brightness:
+            return MakeFilter<BrightnessRecorder<RecordingFilter<IEffectBrightness, IID_IEffectBrightness>>>(
+                trace, hasInterface);
+        case EffectId::Deblocking:
+            return MakeFilter<DeblockingRecorder<RecordingFilter<IEffectDeblocking, IID_IEffectDeblocking>>>(
+                trace, hasInterface);
+        case EffectId::EdgeEnhance:
+            return MakeFilter<EdgeEnhanceRecorder<RecordingFilter<IEffectEdgeEnhance, IID_IEffectEdgeEnhance>>>(
+                trace, hasInterface);
+        case EffectId::Fire:
+            return MakeFilter<FireRecorder<RecordingFilter<IEffectFire, IID_IEffectFire>>>(trace, hasInterface);
+        case EffectId::Hologram:
+            return MakeFilter<HologramRecorder<RecordingFilter<IEffectHologram, IID_IEffectHologram>>>(
+                trace, hasInterface);
+        case EffectId::Lightning:
+            return MakeFilter<LightningRecorder<RecordingFilter<IEffectLightning, IID_IEffectLightning>>>(
+                trace, hasInterface);
+        case EffectId::MotionBlur:
+            return MakeFilter<MotionBlurRecorder<RecordingFilter<IEffectMotionBlur, IID_IEffectMotionBlur>>>(
+                trace, hasInterface);
+        case EffectId::MotionEmboss:
+            return MakeFilter<MotionEmbossRecorder<RecordingFilter<IEffectMotionEmboss, IID_IEffectMotionEmboss>>>(
+                trace, hasInterface);
+        case EffectId::MotionMosaic:
+            return MakeFilter<MotionMosaicRecorder<RecordingFilter<IEffectMotionMosaic, IID_IEffectMotionMosaic>>>(
+                trace, hasInterface);
+        case EffectId::Particles:
+            return MakeFilter<ParticlesRecorder<RecordingFilter<IEffectParticles, IID_IEffectParticles>>>(
+                trace, hasInterface);
+        case EffectId::Streak:
+            return MakeFilter<StreakRecorder<RecordingFilter<IEffectStreak, IID_IEffectStreak>>>(trace, hasInterface);
+        case EffectId::Wave:
+            return MakeFilter<WaveRecorder<RecordingFilter<IEffectWave, IID_IEffectWave>>>(trace, hasInterface);
         case EffectId::GammaCorrection:
-            return MakeFilter<RecordingGamma>(trace, hasInterface);
+            return MakeFilter<
+                GammaCorrectionRecorder<RecordingFilter<IEffectGammaCorrection, IID_IEffectGammaCorrection>>>(
+                trace, hasInterface);
+        case EffectId::UnsharpMask:
+            return MakeFilter<UnsharpMaskRecorder<RecordingFilter<IEffectUnsharpMask, IID_IEffectUnsharpMask>>>(
+                trace, hasInterface);
+        case EffectId::VideoRotation:
+            return MakeFilter<VideoRotationRecorder<RecordingFilter<IEffectVideoRotation, IID_IEffectVideoRotation>>>(
+                trace, hasInterface);
+        case EffectId::AudioChorus:
+            return MakeFilter<AudioChorusRecorder<RecordingFilter<IEffectAudioChorus, IID_IEffectAudioChorus>>>(
+                trace, hasInterface);
         default:
             return MakeFilter<RecordingPlain>(trace, hasInterface);
     }

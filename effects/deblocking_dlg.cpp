@@ -1,0 +1,119 @@
+// Deblocking: which algorithm smooths the edges of blocks, where they lie and how strongly.
+#include "effects/effect_dlg.h"
+#include "effects/effect_makers.h"
+#include "skin/combo_list_box.h"
+#include "skin/numbers.h"
+
+namespace {
+
+class CDeblockingDlg : public CEffectDlg<IEffectDeblocking, DeblockingSettings> {
+public:
+    CDeblockingDlg() : CEffectDlg(EffectId::Deblocking) {}
+
+private:
+    bool CreateControls() override {
+        if (!AddEnable(m_settings->enabled) || !AddLabel(m_algorithmLabel, L"Deblocking Algorithm:") ||
+            !m_algorithm.Create(this, CRect(0, 0, 0, 0), 12)) {
+            return false;
+        }
+        AddControl(m_algorithm, L"Select one of the supported deblocking algorithms.");
+        m_algorithm.AddString(L"Two Line Algorithm");
+        m_algorithm.AddString(L"Four Line Algorithm");
+        m_algorithm.SetCurrentIndex(m_settings->algorithm);
+        return AddLabel(m_offsetLabel, L"First Block Offset:") && AddLabel(m_xLabel, L"X") &&
+               AddLabel(m_yLabel, L"Y") && AddLabel(m_sizeLabel, L"Block Size:") && AddLabel(m_widthLabel, L"Width") &&
+               AddLabel(m_heightLabel, L"Height") &&
+               AddNumberEdit(m_offsetX, 13, m_settings->blockOffsetX, 0,
+                             L"Offset from the beginning of the sample buffer to the actual horizontal start.") &&
+               AddNumberEdit(m_offsetY, 14, m_settings->blockOffsetY, 0,
+                             L"Offset from the beginning of the sample buffer to the actual vertical start.") &&
+               AddNumberEdit(m_width, 15, m_settings->blockWidth, 8, L"The expected block width.") &&
+               AddNumberEdit(m_height, 16, m_settings->blockHeight, 8, L"The expected block height.") &&
+               AddSlider(m_edgeThreshold,
+                         {.id = 17,
+                          .label = L"Edge Threshold(Preserve to Smooth):",
+                          .min = 0,
+                          .max = 255,
+                          .field = &m_settings->edgeThreshold,
+                          .standard = 48,
+                          .help = L"A value of 0 preserves all the edges in the original video, while a value of 255 "
+                                  L"will smooth all the edges."});
+    }
+
+    void LayoutControls() override {
+        CEffectDlg::LayoutControls();
+        m_algorithmLabel.SetRect(At(20, 320, 150));
+        m_algorithm.SetRect(At(170, 320, 180));
+        m_offsetLabel.SetRect(At(20, 350, 120));
+        m_xLabel.SetRect(At(150, 350, 20));
+        m_offsetX.SetRect(At(170, 350, 40));
+        m_yLabel.SetRect(At(290, 350, 20));
+        m_offsetY.SetRect(At(310, 350, 40));
+        m_sizeLabel.SetRect(At(20, 380, 100));
+        m_widthLabel.SetRect(At(130, 380, 40));
+        m_width.SetRect(At(170, 380, 40));
+        m_heightLabel.SetRect(At(260, 380, 50));
+        m_height.SetRect(At(310, 380, 40));
+        m_edgeThreshold.Place({.label = At(20, 410, 300), .slider = At(20, 435, 400), .number = At(430, 435, 50)});
+        m_helpRect = HelpRectBelow(465);
+    }
+
+    void SyncControls() override {
+        CEffectDlg::SyncControls();
+        m_algorithm.SetEnabled(m_enable.IsChecked());
+        m_edgeThreshold.Enable(m_enable.IsChecked() && UsesThreshold());
+    }
+
+    void OnPicked(const void* list) override {
+        if (list != &m_algorithm) return;
+        m_edgeThreshold.Enable(UsesThreshold());
+        ApplyToFilter();
+    }
+
+    void ApplyToFilter() override {
+        if (!m_filter) return;
+        m_filter->put_Enable(AutomationBool(m_enable));
+        m_filter->put_Algorithm(m_algorithm.CurrentIndex());
+        m_filter->put_BlockOffsetX(InFrame(m_offsetX, g_FrameWidth, g_VideoWidth));
+        m_filter->put_BlockOffsetY(InFrame(m_offsetY, g_FrameHeight, g_VideoHeight));
+        m_filter->put_BlockWidth(InFrame(m_width, g_FrameWidth, g_VideoWidth));
+        m_filter->put_BlockHeight(InFrame(m_height, g_FrameHeight, g_VideoHeight));
+        m_filter->put_EdgeThreshold(m_edgeThreshold.Value());
+    }
+
+    void SaveSettings() override {
+        CEffectDlg::SaveSettings();
+        m_settings->algorithm = m_algorithm.CurrentIndex();
+    }
+
+    void ResetToDefaults() override {
+        m_algorithm.SetCurrentIndex(0);
+        CEffectDlg::ResetToDefaults();
+    }
+
+    /// The threshold applies to the four-line algorithm alone.
+    bool UsesThreshold() const { return m_algorithm.CurrentIndex() == 1; }
+
+    /// From pixels of the source video to those of the processed frame.
+    static int InFrame(const CNumberEdit& edit, int frame, int video) {
+        return TruncateToInt(static_cast<double>(edit.Value()) * frame / video);
+    }
+
+    CSkinStatic m_algorithmLabel;
+    CVelComboListBox m_algorithm;
+    CSkinStatic m_offsetLabel;
+    CSkinStatic m_xLabel;
+    CNumberEdit m_offsetX;
+    CSkinStatic m_yLabel;
+    CNumberEdit m_offsetY;
+    CSkinStatic m_sizeLabel;
+    CSkinStatic m_widthLabel;
+    CNumberEdit m_width;
+    CSkinStatic m_heightLabel;
+    CNumberEdit m_height;
+    CValueSlider m_edgeThreshold;
+};
+
+}  // namespace
+
+std::unique_ptr<CDialog> MakeDeblockingDlg() { return std::make_unique<CDeblockingDlg>(); }

@@ -1,0 +1,65 @@
+// Edge Enhance: a switch, and a multiplier with a switch of its own.
+#include "effects/effect_dlg.h"
+#include "effects/effect_makers.h"
+
+namespace {
+
+class CEdgeEnhanceDlg : public CEffectDlg<IEffectEdgeEnhance, EdgeEnhanceSettings> {
+public:
+    CEdgeEnhanceDlg() : CEffectDlg(EffectId::EdgeEnhance) {}
+
+private:
+    bool CreateControls() override {
+        return AddEnable(m_settings->enabled) &&
+               AddCheckBox(
+                   m_useMultiplier,
+                   {.id = kUseMultiplierId,
+                    .text = L"Enable Multiplier (50 - 1000)",
+                    .field = &m_settings->multiplierEnabled,
+                    .standard = 1,
+                    .help =
+                        L"Enable the multiplier, will apply a multiplication factor to the edge-enhanced samples."}) &&
+               AddSlider(m_multiplier,
+                         {.id = 13,
+                          .label = nullptr,
+                          .min = 50,
+                          .max = 1000,
+                          .field = &m_settings->multiplier,
+                          .standard = 100,
+                          .help = L"Set values of the multiplication factor."});
+    }
+
+    void LayoutControls() override {
+        CEffectDlg::LayoutControls();
+        m_useMultiplier.SetRect(At(20, 325, 200));
+        m_multiplier.Place({.slider = TallRow().slider, .number = TallRow().number});
+        m_helpRect = HelpRectBelow(385);
+    }
+
+    void SyncControls() override {
+        CEffectDlg::SyncControls();
+        m_multiplier.Enable(m_enable.IsChecked() && m_useMultiplier.IsChecked());
+    }
+
+    void OnClicked(UINT id) override {
+        // It can be clicked only while the effect is on, so that is not looked at.
+        if (id == kUseMultiplierId) m_multiplier.Enable(m_useMultiplier.IsChecked());
+        ApplyToFilter();
+    }
+
+    void ApplyToFilter() override {
+        if (!m_filter) return;
+        m_filter->put_Enable(AutomationBool(m_enable));
+        m_filter->put_EnableMultiplier(AutomationBool(m_useMultiplier));
+        m_filter->put_Multiplier(m_multiplier.Value());
+    }
+
+    static constexpr UINT kUseMultiplierId = 12;
+
+    CSkinCheckBox m_useMultiplier;
+    CValueSlider m_multiplier;
+};
+
+}  // namespace
+
+std::unique_ptr<CDialog> MakeEdgeEnhanceDlg() { return std::make_unique<CEdgeEnhanceDlg>(); }

@@ -1,0 +1,193 @@
+// Fire: flames around what moves, in the directions of a compass.
+#include <algorithm>
+#include <array>
+
+#include "effects/effect_dlg.h"
+#include "effects/effect_makers.h"
+#include "effects/reference_boxes.h"
+
+namespace {
+
+struct Direction {
+    FlameDirection bit;
+    UINT id;
+    LPCWSTR caption;
+    int x;
+    int y;
+    LPCWSTR help;
+};
+
+// A compass, with the glow in its middle.
+constexpr std::array<Direction, 9> kDirections = {{
+    {kFlameNorthWest, 20, L"NW", 30, 451, L"Flames to the North-West."},
+    {kFlameWest, 21, L"W", 30, 481, L"Flames to the West."},
+    {kFlameSouthWest, 22, L"SW", 30, 511, L"Flames to the South-West."},
+    {kFlameNorth, 23, L"N", 80, 451, L"Flames to the North."},
+    {kFlameGlow, 24, L"G", 80, 481, L"Flames all around the object, giving a glowing effect."},
+    {kFlameSouth, 25, L"S", 80, 511, L"Flames to the South."},
+    {kFlameNorthEast, 26, L"NE", 130, 451, L"Flames to the North-East."},
+    {kFlameEast, 27, L"E", 130, 481, L"Flames to the East."},
+    {kFlameSouthEast, 29, L"SE", 130, 511, L"Flames to the South-East."},
+}};
+
+class CFireDlg : public CEffectDlg<IEffectFire, FireSettings> {
+public:
+    CFireDlg() : CEffectDlg(EffectId::Fire, {.firstSync = FirstSync::OnFirstClick}) {}
+
+private:
+    bool CreateControls() override {
+        const bool created =
+            AddEnable(m_settings->enabled) &&
+            AddSlider(m_gradientLevel,
+                      {.id = 15,
+                       .label = L"Gradient Level(0 - 100):",
+                       .min = 0,
+                       .max = 100,
+                       .field = &m_settings->gradientLevel,
+                       .standard = 50,
+                       .help = L"A percentage value that controls the colors graduation. For example 0 will result in "
+                               L"a very small number of colors used to draw the flame. Higher values result in more "
+                               L"colors used to draw the flames gradient color."}) &&
+            AddSlider(m_colorsOffset,
+                      {.id = 16,
+                       .label = L"Colors Offset(0 - 1000):",
+                       .min = 0,
+                       .max = 1000,
+                       .field = &m_settings->colorsOffset,
+                       .standard = 660,
+                       .help = L"Changes the colors used in generating the fire flames to another set of colors."}) &&
+            AddSlider(m_decay, {.id = 18,
+                                .label = L"Decay(1 - 100):",
+                                .min = 1,
+                                .max = 100,
+                                .field = &m_settings->decay,
+                                .standard = 15,
+                                .help = L"Controls the spread and height of the flames. A lower decay value will "
+                                        L"result in a greater spread of fire and higher flames."}) &&
+            AddSlider(m_threshold,
+                      {.id = 12,
+                       .label = L"Threshold(1 - 100):",
+                       .min = 1,
+                       .max = 100,
+                       .field = &m_settings->threshold,
+                       .standard = 50,
+                       .help = L"Value used to control an object's detection level. A lower threshold provides "
+                               L"stronger object detection. "}) &&
+            AddCheckBox(m_reference.noReference,
+                        {.id = kNoReferenceId,
+                         .text = L"No reference frame",
+                         .field = &m_settings->noReference,
+                         .standard = 0,
+                         .help = kNoReferenceHelp}) &&
+            AddCheckBox(m_reference.firstFrame,
+                        {.id = kFirstFrameId,
+                         .text = L"First frame as reference",
+                         .field = &m_settings->firstFrameReference,
+                         .standard = 1,
+                         .help = kFirstFrameHelp}) &&
+            AddCheckBox(m_showBackground, {.id = 17,
+                                           .text = L"Show background",
+                                           .field = &m_settings->showBackground,
+                                           .standard = 0,
+                                           .help = L"If checked, the background of the moving object will be "
+                                                   L"displayed. Otherwise, a black background is displayed."}) &&
+            AddCheckBox(m_entireObject, {.id = 19,
+                                         .text = L"Fire",
+                                         .field = &m_settings->entireObject,
+                                         .standard = 1,
+                                         .help = L"If checked, the entire object will be covered in flames."}) &&
+            AddLabel(m_directionLabel, L"Flame Direction:");
+        for (std::size_t index = 0; created && index < kDirections.size(); ++index) {
+            const Direction& direction = kDirections[index];
+            m_directions[index].SetChecked((m_settings->flameDirection & direction.bit) != 0);
+            if (!AddItem(m_directions[index], direction.caption, direction.id, direction.help)) return false;
+        }
+        return created;
+    }
+
+    void LayoutControls() override {
+        CEffectDlg::LayoutControls();
+        m_gradientLevel.Place(Row(320, 150));
+        m_colorsOffset.Place(Row(345, 150));
+        m_decay.Place(Row(370));
+        m_threshold.Place(Row(395));
+        m_directionLabel.SetRect(At(20, 426, 150));
+        for (std::size_t index = 0; index < kDirections.size(); ++index) {
+            m_directions[index].SetRect(At(kDirections[index].x, kDirections[index].y, 40));
+        }
+        m_entireObject.SetRect(At(kRightColumn, 436, 50));
+        m_showBackground.SetRect(At(kRightColumn, 461, 140));
+        m_reference.noReference.SetRect(At(kRightColumn, 486, 140));
+        m_reference.firstFrame.SetRect(At(kRightColumn, 511, 180));
+        m_helpRect = HelpRectBelow(541);
+    }
+
+    void SyncControls() override {
+        CEffectDlg::SyncControls();
+        m_reference.Sync(m_enable.IsChecked());
+        for (CSkinCheckBox& direction : m_directions) direction.SetEnabled(m_enable.IsChecked());
+    }
+
+    void OnClicked(UINT id) override {
+        if (id == kNoReferenceId) m_reference.FollowClick();
+        const auto clicked = std::find_if(
+            kDirections.begin(), kDirections.end(), [id](const Direction& direction) { return direction.id == id; });
+        // There is no fire without a direction: the last one that goes turns into a glow.
+        if (clicked != kDirections.end() && Directions() == 0) SetDirections(kFlameGlow);
+        ApplyToFilter();
+    }
+
+    void ApplyToFilter() override {
+        if (!m_filter) return;
+        m_filter->put_Enable(AutomationBool(m_enable));
+        m_filter->put_GradientLevel(m_gradientLevel.Value());
+        m_filter->put_ColorsOffset(m_colorsOffset.Value());
+        m_filter->put_Decay(m_decay.Value());
+        m_filter->put_Threshold(m_threshold.Value());
+        m_filter->put_FlameDirection(Directions());
+        m_filter->put_EntireObject(AutomationBool(m_entireObject));
+        m_filter->put_ShowBackground(AutomationBool(m_showBackground));
+        m_filter->put_NoReference(AutomationBool(m_reference.noReference));
+        m_filter->put_FirstFrameReference(AutomationBool(m_reference.firstFrame));
+    }
+
+    void SaveSettings() override {
+        CEffectDlg::SaveSettings();
+        m_settings->flameDirection = Directions();
+    }
+
+    void ResetToDefaults() override {
+        SetDirections(kFlameNorth);
+        CEffectDlg::ResetToDefaults();
+    }
+
+    int Directions() const {
+        int bits = 0;
+        for (std::size_t index = 0; index < kDirections.size(); ++index) {
+            if (m_directions[index].IsChecked()) bits |= kDirections[index].bit;
+        }
+        return bits;
+    }
+
+    void SetDirections(int bits) {
+        for (std::size_t index = 0; index < kDirections.size(); ++index) {
+            m_directions[index].SetChecked((bits & kDirections[index].bit) != 0);
+        }
+    }
+
+    static constexpr int kRightColumn = 300;
+
+    CValueSlider m_gradientLevel;
+    CValueSlider m_colorsOffset;
+    CValueSlider m_decay;
+    CValueSlider m_threshold;
+    CSkinStatic m_directionLabel;
+    std::array<CSkinCheckBox, kDirections.size()> m_directions;
+    CSkinCheckBox m_entireObject;
+    CSkinCheckBox m_showBackground;
+    ReferenceBoxes m_reference;
+};
+
+}  // namespace
+
+std::unique_ptr<CDialog> MakeFireDlg() { return std::make_unique<CFireDlg>(); }

@@ -1,0 +1,63 @@
+// Motion Blur: what moves leaves a coloured blur.
+#include "effects/effect_dlg.h"
+#include "effects/effect_makers.h"
+#include "effects/reference_boxes.h"
+
+namespace {
+
+class CMotionBlurDlg : public CEffectDlg<IEffectMotionBlur, MotionBlurSettings> {
+public:
+    CMotionBlurDlg() : CEffectDlg(EffectId::MotionBlur) {}
+
+private:
+    bool CreateControls() override {
+        return AddEnable(m_settings->enabled) &&
+               AddSlider(m_hue, {.id = 13,
+                                 .label = L"Hue(0 - 360):",
+                                 .min = 0,
+                                 .max = 360,
+                                 .field = &m_settings->hue,
+                                 .standard = 0,
+                                 .help = L"Value used to change the color of the effect."}) &&
+               AddSlider(m_threshold,
+                         {.id = 12,
+                          .label = L"Threshold(1 - 100):",
+                          .min = 1,
+                          .max = 100,
+                          .field = &m_settings->threshold,
+                          .standard = 50,
+                          .help = kThresholdHelp}) &&
+               AddSlider(m_interval, {.id = 15,
+                                      .label = L"Interval Frames(1 - 200):",
+                                      .min = 1,
+                                      .max = 200,
+                                      .field = &m_settings->intervalFrames,
+                                      .standard = 2,
+                                      .help = L"Number of frames to use when creating the effect. The higher the "
+                                              L"number, the greater the blur since more frames are being used."});
+    }
+
+    void LayoutControls() override {
+        CEffectDlg::LayoutControls();
+        m_hue.Place(Row(320));
+        m_threshold.Place(Row(345, 160));
+        m_interval.Place(Row(370, 160));
+        m_helpRect = HelpRectBelow(406);
+    }
+
+    void ApplyToFilter() override {
+        if (!m_filter) return;
+        m_filter->put_Enable(AutomationBool(m_enable));
+        m_filter->put_Threshold(m_threshold.Value());
+        m_filter->put_Hue(m_hue.Value());
+        m_filter->put_IntervalFrames(m_interval.Value());
+    }
+
+    CValueSlider m_hue;
+    CValueSlider m_threshold;
+    CValueSlider m_interval;
+};
+
+}  // namespace
+
+std::unique_ptr<CDialog> MakeMotionBlurDlg() { return std::make_unique<CMotionBlurDlg>(); }

@@ -1,0 +1,13 @@
+// An edit box for a whole number.
+#pragma once
+
+#include "skin/skin_dialog.h"
+#include "skin/skin_edit.h"
+
+class CNumberEdit : public CSkinEdit {
+public:
+    bool Create(CSkinDialog& dialog, UINT id, int value, LPCWSTR help);
+    /// The leading digits, after blanks and a sign; 0 without any, and the nearest int of what does not fit.
+    int Value() const;
+    void SetValue(int value);
+};
