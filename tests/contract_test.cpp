@@ -41,11 +41,19 @@ HRESULT STDMETHODCALLTYPE ByValue(void*, GammaParams params) {
     return S_OK;
 }
 
+template <int Slot>
+HRESULT STDMETHODCALLTYPE ChorusByValue(void*, ChorusParams params) {
+    g_calledSlot = Slot;
+    g_argumentSum = static_cast<std::size_t>(params.dryMix + params.enabled);
+    return S_OK;
+}
+
 template <int... Slots>
 struct NumberedTables {
     static inline void* none[] = {reinterpret_cast<void*>(&NoArgument<Slots>)...};
     static inline void* one[] = {reinterpret_cast<void*>(&OneArgument<Slots>)...};
     static inline void* two[] = {reinterpret_cast<void*>(&TwoArguments<Slots>)...};
+    static inline void* chorus[] = {reinterpret_cast<void*>(&ChorusByValue<Slots>)...};
     static inline void* gamma[] = {reinterpret_cast<void*>(&ByValue<Slots>)...};
 };
 template <int... Slots>
@@ -58,7 +66,13 @@ struct RawObject {
     Interface* operator->() { return reinterpret_cast<Interface*>(this); }
 };
 
+template <typename Interface, typename Object>
+Interface& As(Object& object) {
+    return *reinterpret_cast<Interface*>(&object);
+}
+
 TEST(Contract, EachOperationLiesAtItsSlot) {
+    RawObject<IEffectAudioChorus> chorus{Tables::chorus};
     RawObject<IMediaHost> none{Tables::none};
     RawObject<IMediaHost> one{Tables::one};
     RawObject<IMediaHost> two{Tables::two};
@@ -90,6 +104,83 @@ TEST(Contract, EachOperationLiesAtItsSlot) {
         {"FindByMoniker", 10, [&] { listTwo->FindByMoniker(nullptr, &index); }},
         {"RemoveAt", 12, [&] { listOne->RemoveAt(0); }},
         {"Add", 13, [&] { listTwo->Add(nullptr, 0); }},
+        {"IEffectAutoContrast::put_Enable", 8, [&] { As<IEffectAutoContrast>(one).put_Enable(0); }},
+        {"IEffectAutoIntensity::put_Enable", 8, [&] { As<IEffectAutoIntensity>(one).put_Enable(0); }},
+        {"IEffectAutoLevel::put_Enable", 8, [&] { As<IEffectAutoLevel>(one).put_Enable(0); }},
+        {"IEffectBrightness::put_Enable", 8, [&] { As<IEffectBrightness>(one).put_Enable(0); }},
+        {"IEffectBrightness::put_FirstFrameReference", 11,
+         [&] { As<IEffectBrightness>(one).put_FirstFrameReference(0); }},
+        {"IEffectBrightness::put_Threshold", 13, [&] { As<IEffectBrightness>(one).put_Threshold(0); }},
+        {"IEffectBrightness::put_Brightness", 15, [&] { As<IEffectBrightness>(one).put_Brightness(0); }},
+        {"IEffectDeblocking::put_Enable", 8, [&] { As<IEffectDeblocking>(one).put_Enable(0); }},
+        {"IEffectDeblocking::put_Algorithm", 10, [&] { As<IEffectDeblocking>(one).put_Algorithm(0); }},
+        {"IEffectDeblocking::put_BlockWidth", 12, [&] { As<IEffectDeblocking>(one).put_BlockWidth(0); }},
+        {"IEffectDeblocking::put_BlockHeight", 14, [&] { As<IEffectDeblocking>(one).put_BlockHeight(0); }},
+        {"IEffectDeblocking::put_BlockOffsetX", 16, [&] { As<IEffectDeblocking>(one).put_BlockOffsetX(0); }},
+        {"IEffectDeblocking::put_BlockOffsetY", 18, [&] { As<IEffectDeblocking>(one).put_BlockOffsetY(0); }},
+        {"IEffectDeblocking::put_EdgeThreshold", 20, [&] { As<IEffectDeblocking>(one).put_EdgeThreshold(0); }},
+        {"IEffectEdgeEnhance::put_Enable", 16, [&] { As<IEffectEdgeEnhance>(one).put_Enable(0); }},
+        {"IEffectEdgeEnhance::put_EnableMultiplier", 18, [&] { As<IEffectEdgeEnhance>(one).put_EnableMultiplier(0); }},
+        {"IEffectEdgeEnhance::put_Multiplier", 20, [&] { As<IEffectEdgeEnhance>(one).put_Multiplier(0); }},
+        {"IEffectFire::put_Enable", 8, [&] { As<IEffectFire>(one).put_Enable(0); }},
+        {"IEffectFire::put_FlameDirection", 10, [&] { As<IEffectFire>(one).put_FlameDirection(0); }},
+        {"IEffectFire::put_Decay", 12, [&] { As<IEffectFire>(one).put_Decay(0); }},
+        {"IEffectFire::put_ColorsOffset", 14, [&] { As<IEffectFire>(one).put_ColorsOffset(0); }},
+        {"IEffectFire::put_GradientLevel", 16, [&] { As<IEffectFire>(one).put_GradientLevel(0); }},
+        {"IEffectFire::put_EntireObject", 21, [&] { As<IEffectFire>(one).put_EntireObject(0); }},
+        {"IEffectFire::put_ShowBackground", 23, [&] { As<IEffectFire>(one).put_ShowBackground(0); }},
+        {"IEffectFire::put_FirstFrameReference", 25, [&] { As<IEffectFire>(one).put_FirstFrameReference(0); }},
+        {"IEffectFire::put_Threshold", 27, [&] { As<IEffectFire>(one).put_Threshold(0); }},
+        {"IEffectFire::put_NoReference", 29, [&] { As<IEffectFire>(one).put_NoReference(0); }},
+        {"IEffectHologram::put_Enable", 8, [&] { As<IEffectHologram>(one).put_Enable(0); }},
+        {"IEffectHologram::put_Hue", 10, [&] { As<IEffectHologram>(one).put_Hue(0); }},
+        {"IEffectHologram::put_FirstFrameReference", 13, [&] { As<IEffectHologram>(one).put_FirstFrameReference(0); }},
+        {"IEffectHologram::put_LineNoise", 15, [&] { As<IEffectHologram>(one).put_LineNoise(0); }},
+        {"IEffectHologram::put_Noise", 17, [&] { As<IEffectHologram>(one).put_Noise(0); }},
+        {"IEffectHologram::put_Threshold", 19, [&] { As<IEffectHologram>(one).put_Threshold(0); }},
+        {"IEffectHologram::put_NoReference", 21, [&] { As<IEffectHologram>(one).put_NoReference(0); }},
+        {"IEffectLightning::put_Enable", 8, [&] { As<IEffectLightning>(one).put_Enable(0); }},
+        {"IEffectLightning::put_FirstFrameReference", 11,
+         [&] { As<IEffectLightning>(one).put_FirstFrameReference(0); }},
+        {"IEffectLightning::put_Threshold", 13, [&] { As<IEffectLightning>(one).put_Threshold(0); }},
+        {"IEffectLightning::put_NoReference", 15, [&] { As<IEffectLightning>(one).put_NoReference(0); }},
+        {"IEffectMotionBlur::put_Enable", 8, [&] { As<IEffectMotionBlur>(one).put_Enable(0); }},
+        {"IEffectMotionBlur::put_Hue", 10, [&] { As<IEffectMotionBlur>(one).put_Hue(0); }},
+        {"IEffectMotionBlur::put_Threshold", 12, [&] { As<IEffectMotionBlur>(one).put_Threshold(0); }},
+        {"IEffectMotionBlur::put_IntervalFrames", 14, [&] { As<IEffectMotionBlur>(one).put_IntervalFrames(0); }},
+        {"IEffectMotionEmboss::put_Enable", 8, [&] { As<IEffectMotionEmboss>(one).put_Enable(0); }},
+        {"IEffectMotionEmboss::put_FirstFrameReference", 11,
+         [&] { As<IEffectMotionEmboss>(one).put_FirstFrameReference(0); }},
+        {"IEffectMotionEmboss::put_Threshold", 13, [&] { As<IEffectMotionEmboss>(one).put_Threshold(0); }},
+        {"IEffectMotionEmboss::put_BumpMap", 15, [&] { As<IEffectMotionEmboss>(one).put_BumpMap(0); }},
+        {"IEffectMotionEmboss::put_Depth", 17, [&] { As<IEffectMotionEmboss>(one).put_Depth(0); }},
+        {"IEffectMotionEmboss::put_Elevation", 19, [&] { As<IEffectMotionEmboss>(one).put_Elevation(0); }},
+        {"IEffectMotionEmboss::put_LightAngle", 21, [&] { As<IEffectMotionEmboss>(one).put_LightAngle(0); }},
+        {"IEffectMotionEmboss::put_NoReference", 23, [&] { As<IEffectMotionEmboss>(one).put_NoReference(0); }},
+        {"IEffectMotionMosaic::put_Enable", 8, [&] { As<IEffectMotionMosaic>(one).put_Enable(0); }},
+        {"IEffectMotionMosaic::put_SquareSize", 10, [&] { As<IEffectMotionMosaic>(one).put_SquareSize(0); }},
+        {"IEffectMotionMosaic::put_Threshold", 12, [&] { As<IEffectMotionMosaic>(one).put_Threshold(0); }},
+        {"IEffectMotionMosaic::put_FirstFrameReference", 15,
+         [&] { As<IEffectMotionMosaic>(one).put_FirstFrameReference(0); }},
+        {"IEffectMotionMosaic::put_NoReference", 17, [&] { As<IEffectMotionMosaic>(one).put_NoReference(0); }},
+        {"IEffectParticles::put_Enable", 8, [&] { As<IEffectParticles>(one).put_Enable(0); }},
+        {"IEffectParticles::put_Distortion", 10, [&] { As<IEffectParticles>(one).put_Distortion(0); }},
+        {"IEffectStreak::put_Enable", 8, [&] { As<IEffectStreak>(one).put_Enable(0); }},
+        {"IEffectStreak::put_HeavyMode", 10, [&] { As<IEffectStreak>(one).put_HeavyMode(0); }},
+        {"IEffectWave::put_Enable", 8, [&] { As<IEffectWave>(one).put_Enable(0); }},
+        {"IEffectWave::put_WaveSpeed", 10, [&] { As<IEffectWave>(one).put_WaveSpeed(0); }},
+        {"IEffectWave::put_Threshold", 12, [&] { As<IEffectWave>(one).put_Threshold(0); }},
+        {"IEffectUnsharpMask::put_Enable", 16, [&] { As<IEffectUnsharpMask>(one).put_Enable(0); }},
+        {"IEffectUnsharpMask::put_Threshold", 18, [&] { As<IEffectUnsharpMask>(one).put_Threshold(0); }},
+        {"IEffectUnsharpMask::put_Radius", 20, [&] { As<IEffectUnsharpMask>(one).put_Radius(0); }},
+        {"IEffectUnsharpMask::put_Amount", 22, [&] { As<IEffectUnsharpMask>(one).put_Amount(0); }},
+        {"IEffectVideoRotation::put_Reverse", 8, [&] { As<IEffectVideoRotation>(one).put_Reverse(0); }},
+        {"IEffectVideoRotation::put_Flip", 10, [&] { As<IEffectVideoRotation>(one).put_Flip(0); }},
+        {"IEffectVideoRotation::put_Angle", 14, [&] { As<IEffectVideoRotation>(one).put_Angle(0); }},
+        {"IEffectAudioChorus::SetChorusParams", 3,
+         [&] {
+             As<IEffectAudioChorus>(chorus).SetChorusParams({1, 2, 3, 4, 5, 6, {}});
+         }},
         {"SetGammaParams", 6,
          [&] {
              gamma->SetGammaParams({7, 6, 5, 4});

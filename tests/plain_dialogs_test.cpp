@@ -177,6 +177,33 @@ TEST(MotionEmboss, OneOfTheTwoModesIsSelected) {
     EXPECT_EQ(session.record[5], 1);
 }
 
+TEST(ReferenceBoxes, WithoutAReferenceFrameTheFirstFrameIsNoChoice) {
+    const struct {
+        EffectId effect;
+        Record record;
+        POINT firstFrame;
+    } rows[] = {{EffectId::Hologram, {1, 0, 1, 1, 0, 1, 1}, {60, 461}},
+                {EffectId::Lightning, {1, 1, 1, 1}, {60, 386}},
+                {EffectId::MotionEmboss, {1, 0, 0, 1, 1, 0, 1, 1}, {60, 491}},
+                {EffectId::MotionMosaic, {1, 1, 1, 1, 1}, {60, 411}},
+                {EffectId::Fire, {1, 0, 0, 1, 1, 1, 0, 0, 1, 1}, {340, 521}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(static_cast<int>(row.effect));
+        Session session(row.effect, row.record);
+        session.Run([&](DialogDriver& dialog) {
+            dialog.Click(row.firstFrame);
+            dialog.Click(row.firstFrame);
+            dialog.Click({40, 305});
+            dialog.Click({40, 305});
+            session.Pushes();
+            dialog.Click(row.firstFrame);
+            EXPECT_EQ(session.Pushes(), "") << "off and on again does not enable it";
+            dialog.Key(VK_RETURN);
+        });
+        EXPECT_EQ(session.record, row.record) << "its state is kept";
+    }
+}
+
 TEST(Fire, ThereIsAlwaysADirectionAfterAClick) {
     const struct {
         POINT at;
