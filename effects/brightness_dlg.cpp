@@ -1,26 +1,17 @@
 // Brightness: the brightness of what moves.
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
+#include "effects/motion_dlg.h"
 #include "skin/numbers.h"
 
 namespace {
 
-class CBrightnessDlg : public CEffectDlg<IEffectBrightness, BrightnessSettings> {
+class CBrightnessDlg : public CMotionDlg<IEffectBrightness, BrightnessSettings> {
 public:
-    CBrightnessDlg() : CEffectDlg(EffectId::Brightness, {.firstSync = FirstSync::OnFirstClick}) {}
+    CBrightnessDlg() : CMotionDlg(EffectId::Brightness) {}
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_threshold,
-                         {.id = 12,
-                          .label = L"Threshold(1 - 100):",
-                          .min = 1,
-                          .max = 100,
-                          .field = &m_settings->threshold,
-                          .standard = 50,
-                          .help = kThresholdHelp}) &&
+        return AddEnable(m_settings->enabled) && AddThreshold() &&
                AddSlider(m_brightness,
                          {.id = 13,
                           .label = L"Brightness(-1000 - 1000):",
@@ -30,18 +21,12 @@ private:
                           .field = &m_settings->brightness,
                           .standard = 100,
                           .help = L"The relative lightness or darkness of a color"}) &&
-               AddCheckBox(
-                   m_firstFrame,
-                   {.id = kFirstFrameId,
-                    .text = L"First frame as reference",
-                    .field = &m_settings->firstFrameReference,
-                    .standard = 1,
-                    .help =
-                        L"Enables or disables setting the first frame in every play session as the reference frame."});
+               AddFirstFrame(
+                   L"Enables or disables setting the first frame in every play session as the reference frame.");
     }
 
     void LayoutControls() override {
-        CEffectDlg::LayoutControls();
+        CMotionDlg::LayoutControls();
         m_threshold.Place(Row(320));
         m_brightness.Place(Row(345, 160));
         m_firstFrame.SetRect(At(20, 376, 180));
@@ -57,9 +42,7 @@ private:
         m_filter->put_FirstFrameReference(AutomationBool(m_firstFrame));
     }
 
-    CValueSlider m_threshold;
     CValueSlider m_brightness;
-    CSkinCheckBox m_firstFrame;
 };
 
 }  // namespace

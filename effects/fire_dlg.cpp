@@ -2,9 +2,8 @@
 #include <algorithm>
 #include <array>
 
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
+#include "effects/motion_dlg.h"
 
 namespace {
 
@@ -30,9 +29,9 @@ constexpr std::array<Direction, 9> kDirections = {{
     {kFlameSouthEast, 29, L"SE", 130, 511, L"Flames to the South-East."},
 }};
 
-class CFireDlg : public CEffectDlg<IEffectFire, FireSettings> {
+class CFireDlg : public CMotionDlg<IEffectFire, FireSettings> {
 public:
-    CFireDlg() : CEffectDlg(EffectId::Fire, {.firstSync = FirstSync::OnFirstClick}) {}
+    CFireDlg() : CMotionDlg(EffectId::Fire) {}
 
 private:
     bool CreateControls() override {
@@ -64,33 +63,17 @@ private:
                                 .standard = 15,
                                 .help = L"Controls the spread and height of the flames. A lower decay value will "
                                         L"result in a greater spread of fire and higher flames."}) &&
-            AddSlider(m_threshold,
-                      {.id = 12,
-                       .label = L"Threshold(1 - 100):",
-                       .min = 1,
-                       .max = 100,
-                       .field = &m_settings->threshold,
-                       .standard = 50,
-                       .help = L"Value used to control an object's detection level. A lower threshold provides "
-                               L"stronger object detection. "}) &&
-            AddCheckBox(m_reference.noReference,
-                        {.id = kNoReferenceId,
-                         .text = L"No reference frame",
-                         .field = &m_settings->noReference,
+            AddThreshold(
+                L"Value used to control an object's detection level. A lower threshold provides stronger object "
+                L"detection. ") &&
+            AddNoReference() && AddFirstFrame() &&
+            AddCheckBox(m_showBackground,
+                        {.id = 17,
+                         .text = L"Show background",
+                         .field = &m_settings->showBackground,
                          .standard = 0,
-                         .help = kNoReferenceHelp}) &&
-            AddCheckBox(m_reference.firstFrame,
-                        {.id = kFirstFrameId,
-                         .text = L"First frame as reference",
-                         .field = &m_settings->firstFrameReference,
-                         .standard = 1,
-                         .help = kFirstFrameHelp}) &&
-            AddCheckBox(m_showBackground, {.id = 17,
-                                           .text = L"Show background",
-                                           .field = &m_settings->showBackground,
-                                           .standard = 0,
-                                           .help = L"If checked, the background of the moving object will be "
-                                                   L"displayed. Otherwise, a black background is displayed."}) &&
+                         .help = L"If checked, the background of the moving object will be "
+                                 L"displayed. Otherwise, a black background is displayed."}) &&
             AddCheckBox(m_entireObject, {.id = 19,
                                          .text = L"Fire",
                                          .field = &m_settings->entireObject,
@@ -106,7 +89,7 @@ private:
     }
 
     void LayoutControls() override {
-        CEffectDlg::LayoutControls();
+        CMotionDlg::LayoutControls();
         m_gradientLevel.Place(Row(320, 150));
         m_colorsOffset.Place(Row(345, 150));
         m_decay.Place(Row(370));
@@ -117,24 +100,22 @@ private:
         }
         m_entireObject.SetRect(At(kRightColumn, 436, 50));
         m_showBackground.SetRect(At(kRightColumn, 461, 140));
-        m_reference.noReference.SetRect(At(kRightColumn, 486, 140));
-        m_reference.firstFrame.SetRect(At(kRightColumn, 511, 180));
+        m_noReference.SetRect(At(kRightColumn, 486, 140));
+        m_firstFrame.SetRect(At(kRightColumn, 511, 180));
         m_helpRect = HelpRectBelow(541);
     }
 
     void SyncControls() override {
-        CEffectDlg::SyncControls();
-        m_reference.Sync(m_enable.IsChecked());
+        CMotionDlg::SyncControls();
         for (CSkinCheckBox& direction : m_directions) direction.SetEnabled(m_enable.IsChecked());
     }
 
     void OnClicked(UINT id) override {
-        if (id == kNoReferenceId) m_reference.FollowClick();
         const auto clicked = std::find_if(
             kDirections.begin(), kDirections.end(), [id](const Direction& direction) { return direction.id == id; });
         // There is no fire without a direction: the last one that goes turns into a glow.
         if (clicked != kDirections.end() && Directions() == 0) SetDirections(kFlameGlow);
-        ApplyToFilter();
+        CMotionDlg::OnClicked(id);
     }
 
     void ApplyToFilter() override {
@@ -147,18 +128,17 @@ private:
         m_filter->put_FlameDirection(Directions());
         m_filter->put_EntireObject(AutomationBool(m_entireObject));
         m_filter->put_ShowBackground(AutomationBool(m_showBackground));
-        m_filter->put_NoReference(AutomationBool(m_reference.noReference));
-        m_filter->put_FirstFrameReference(AutomationBool(m_reference.firstFrame));
+        PutReference();
     }
 
     void SaveSettings() override {
-        CEffectDlg::SaveSettings();
+        CMotionDlg::SaveSettings();
         m_settings->flameDirection = Directions();
     }
 
     void ResetToDefaults() override {
         SetDirections(kFlameNorth);
-        CEffectDlg::ResetToDefaults();
+        CMotionDlg::ResetToDefaults();
     }
 
     int Directions() const {
@@ -180,12 +160,10 @@ private:
     CValueSlider m_gradientLevel;
     CValueSlider m_colorsOffset;
     CValueSlider m_decay;
-    CValueSlider m_threshold;
     CSkinStatic m_directionLabel;
     std::array<CSkinCheckBox, kDirections.size()> m_directions;
     CSkinCheckBox m_entireObject;
     CSkinCheckBox m_showBackground;
-    ReferenceBoxes m_reference;
 };
 
 }  // namespace

@@ -1,13 +1,12 @@
 // Motion Blur: what moves leaves a coloured blur.
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
+#include "effects/motion_dlg.h"
 
 namespace {
 
-class CMotionBlurDlg : public CEffectDlg<IEffectMotionBlur, MotionBlurSettings> {
+class CMotionBlurDlg : public CMotionDlg<IEffectMotionBlur, MotionBlurSettings> {
 public:
-    CMotionBlurDlg() : CEffectDlg(EffectId::MotionBlur) {}
+    CMotionBlurDlg() : CMotionDlg(EffectId::MotionBlur, FirstSync::AfterAttach) {}
 
 private:
     bool CreateControls() override {
@@ -19,26 +18,20 @@ private:
                                  .field = &m_settings->hue,
                                  .standard = 0,
                                  .help = L"Value used to change the color of the effect."}) &&
-               AddSlider(m_threshold,
-                         {.id = 12,
-                          .label = L"Threshold(1 - 100):",
+               AddThreshold() &&
+               AddSlider(m_interval,
+                         {.id = 15,
+                          .label = L"Interval Frames(1 - 200):",
                           .min = 1,
-                          .max = 100,
-                          .field = &m_settings->threshold,
-                          .standard = 50,
-                          .help = kThresholdHelp}) &&
-               AddSlider(m_interval, {.id = 15,
-                                      .label = L"Interval Frames(1 - 200):",
-                                      .min = 1,
-                                      .max = 200,
-                                      .field = &m_settings->intervalFrames,
-                                      .standard = 2,
-                                      .help = L"Number of frames to use when creating the effect. The higher the "
-                                              L"number, the greater the blur since more frames are being used."});
+                          .max = 200,
+                          .field = &m_settings->intervalFrames,
+                          .standard = 2,
+                          .help = L"Number of frames to use when creating the effect. The higher the "
+                                  L"number, the greater the blur since more frames are being used."});
     }
 
     void LayoutControls() override {
-        CEffectDlg::LayoutControls();
+        CMotionDlg::LayoutControls();
         m_hue.Place(Row(320));
         m_threshold.Place(Row(345, 160));
         m_interval.Place(Row(370, 160));
@@ -54,7 +47,6 @@ private:
     }
 
     CValueSlider m_hue;
-    CValueSlider m_threshold;
     CValueSlider m_interval;
 };
 

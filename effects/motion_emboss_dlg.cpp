@@ -1,40 +1,19 @@
 // Motion Emboss: what moves is embossed, with or without a bump map.
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
+#include "effects/motion_dlg.h"
 #include "skin/skin_radio_button.h"
 
 namespace {
 
-class CMotionEmbossDlg : public CEffectDlg<IEffectMotionEmboss, MotionEmbossSettings> {
+class CMotionEmbossDlg : public CMotionDlg<IEffectMotionEmboss, MotionEmbossSettings> {
 public:
-    CMotionEmbossDlg() : CEffectDlg(EffectId::MotionEmboss, {.firstSync = FirstSync::OnFirstClick}) {}
+    CMotionEmbossDlg() : CMotionDlg(EffectId::MotionEmboss) {}
 
 private:
     bool CreateControls() override {
         m_bumpMap.SetChecked(m_settings->bumpMap != 0);
         m_emboss.SetChecked(!m_bumpMap.IsChecked());
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_threshold,
-                         {.id = 12,
-                          .label = L"Threshold(1 - 100):",
-                          .min = 1,
-                          .max = 100,
-                          .field = &m_settings->threshold,
-                          .standard = 50,
-                          .help = kThresholdHelp}) &&
-               AddCheckBox(m_reference.noReference,
-                           {.id = kNoReferenceId,
-                            .text = L"No reference frame",
-                            .field = &m_settings->noReference,
-                            .standard = 0,
-                            .help = kNoReferenceHelp}) &&
-               AddCheckBox(m_reference.firstFrame,
-                           {.id = kFirstFrameId,
-                            .text = L"First frame as reference",
-                            .field = &m_settings->firstFrameReference,
-                            .standard = 1,
-                            .help = kFirstFrameHelp}) &&
+        return AddEnable(m_settings->enabled) && AddThreshold() && AddNoReference() && AddFirstFrame() &&
                AddSlider(m_lightAngle,
                          {.id = 15,
                           .label = L"Light Angle(0-360):",
@@ -64,30 +43,28 @@ private:
     }
 
     void LayoutControls() override {
-        CEffectDlg::LayoutControls();
+        CMotionDlg::LayoutControls();
         m_lightAngle.Place(Row(320, 130, 150, 30));
         m_elevation.Place(Row(345, 130, 150, 30));
         m_depth.Place(Row(370, 130, 150, 30));
         m_threshold.Place(Row(395, 130, 150, 30));
         m_emboss.SetRect(At(20, 426, 80));
         m_bumpMap.SetRect(At(150, 426, 80));
-        m_reference.noReference.SetRect(At(20, 456, 180));
-        m_reference.firstFrame.SetRect(At(20, 481, 180));
+        m_noReference.SetRect(At(20, 456, 180));
+        m_firstFrame.SetRect(At(20, 481, 180));
         m_helpRect = HelpRectBelow(511);
     }
 
     void SyncControls() override {
-        CEffectDlg::SyncControls();
-        m_reference.Sync(m_enable.IsChecked());
+        CMotionDlg::SyncControls();
         m_emboss.SetEnabled(m_enable.IsChecked());
         m_bumpMap.SetEnabled(m_enable.IsChecked());
     }
 
     void OnClicked(UINT id) override {
-        if (id == kNoReferenceId) m_reference.FollowClick();
         if (id == kEmbossId) m_bumpMap.SetChecked(!m_emboss.IsChecked());
         if (id == kBumpMapId) m_emboss.SetChecked(!m_bumpMap.IsChecked());
-        ApplyToFilter();
+        CMotionDlg::OnClicked(id);
     }
 
     void ApplyToFilter() override {
@@ -98,19 +75,18 @@ private:
         m_filter->put_Depth(m_depth.Value());
         m_filter->put_Threshold(m_threshold.Value());
         m_filter->put_BumpMap(AutomationBool(m_bumpMap));
-        m_filter->put_NoReference(AutomationBool(m_reference.noReference));
-        m_filter->put_FirstFrameReference(AutomationBool(m_reference.firstFrame));
+        PutReference();
     }
 
     void SaveSettings() override {
-        CEffectDlg::SaveSettings();
+        CMotionDlg::SaveSettings();
         m_settings->bumpMap = m_bumpMap.IsChecked();
     }
 
     void ResetToDefaults() override {
         m_emboss.SetChecked(true);
         m_bumpMap.SetChecked(false);
-        CEffectDlg::ResetToDefaults();
+        CMotionDlg::ResetToDefaults();
     }
 
     static constexpr UINT kEmbossId = 18;
@@ -119,10 +95,8 @@ private:
     CValueSlider m_lightAngle;
     CValueSlider m_elevation;
     CValueSlider m_depth;
-    CValueSlider m_threshold;
     CSkinRadioButton m_emboss;
     CSkinRadioButton m_bumpMap;
-    ReferenceBoxes m_reference;
 };
 
 }  // namespace

@@ -1,13 +1,12 @@
 // Motion Mosaic: a mosaic of what moves.
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
+#include "effects/motion_dlg.h"
 
 namespace {
 
-class CMotionMosaicDlg : public CEffectDlg<IEffectMotionMosaic, MotionMosaicSettings> {
+class CMotionMosaicDlg : public CMotionDlg<IEffectMotionMosaic, MotionMosaicSettings> {
 public:
-    CMotionMosaicDlg() : CEffectDlg(EffectId::MotionMosaic, {.firstSync = FirstSync::OnFirstClick}) {}
+    CMotionMosaicDlg() : CMotionDlg(EffectId::MotionMosaic) {}
 
 private:
     bool CreateControls() override {
@@ -20,45 +19,16 @@ private:
                           .field = &m_settings->squareSize,
                           .standard = 8,
                           .help = L"Size of the mosaic square in pixels."}) &&
-               AddSlider(m_threshold,
-                         {.id = 12,
-                          .label = L"Threshold(1 - 100):",
-                          .min = 1,
-                          .max = 100,
-                          .field = &m_settings->threshold,
-                          .standard = 50,
-                          .help = kThresholdHelp}) &&
-               AddCheckBox(m_reference.noReference,
-                           {.id = kNoReferenceId,
-                            .text = L"No reference frame",
-                            .field = &m_settings->noReference,
-                            .standard = 0,
-                            .help = kNoReferenceHelp}) &&
-               AddCheckBox(m_reference.firstFrame,
-                           {.id = kFirstFrameId,
-                            .text = L"First frame as reference",
-                            .field = &m_settings->firstFrameReference,
-                            .standard = 1,
-                            .help = kFirstFrameHelp});
+               AddThreshold() && AddNoReference() && AddFirstFrame();
     }
 
     void LayoutControls() override {
-        CEffectDlg::LayoutControls();
+        CMotionDlg::LayoutControls();
         m_squareSize.Place(Row(320));
         m_threshold.Place(Row(345));
-        m_reference.noReference.SetRect(At(20, 376, 180));
-        m_reference.firstFrame.SetRect(At(20, 401, 180));
+        m_noReference.SetRect(At(20, 376, 180));
+        m_firstFrame.SetRect(At(20, 401, 180));
         m_helpRect = HelpRectBelow(431);
-    }
-
-    void SyncControls() override {
-        CEffectDlg::SyncControls();
-        m_reference.Sync(m_enable.IsChecked());
-    }
-
-    void OnClicked(UINT id) override {
-        if (id == kNoReferenceId) m_reference.FollowClick();
-        ApplyToFilter();
     }
 
     void ApplyToFilter() override {
@@ -66,13 +36,10 @@ private:
         m_filter->put_Enable(AutomationBool(m_enable));
         m_filter->put_Threshold(m_threshold.Value());
         m_filter->put_SquareSize(m_squareSize.Value());
-        m_filter->put_NoReference(AutomationBool(m_reference.noReference));
-        m_filter->put_FirstFrameReference(AutomationBool(m_reference.firstFrame));
+        PutReference();
     }
 
     CValueSlider m_squareSize;
-    CValueSlider m_threshold;
-    ReferenceBoxes m_reference;
 };
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Wave: a switch, the detection threshold and the speed of the waves.
 #include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/reference_boxes.h"
 
 namespace {
 
@@ -19,7 +18,8 @@ private:
                           .max = 100,
                           .field = &m_settings->threshold,
                           .standard = 70,
-                          .help = kThresholdHelp}) &&
+                          .help = L"Value used to control an object's detection level. A lower threshold provides "
+                                  L"stronger object detection."}) &&
                AddSlider(m_speed, {.id = 13,
                                    .label = L"Wave Speed(1 - 10):",
                                    .min = 1,

@@ -97,8 +97,6 @@ template <auto Handler>
 LRESULT Focus(CWnd& window, WPARAM wParam, LPARAM);
 template <auto Handler>
 LRESULT Capture(CWnd& window, WPARAM, LPARAM lParam);
-template <auto Handler>
-LRESULT Cursor(CWnd& window, WPARAM wParam, LPARAM lParam);
 
 }  // namespace afx
 
@@ -134,7 +132,6 @@ protected:                                        \
 
 #define ON_WM_CREATE() AFX_WM_ENTRY(WM_CREATE, Create, OnCreate)
 #define ON_WM_DESTROY() AFX_WM_ENTRY(WM_DESTROY, Plain, OnDestroy)
-#define ON_WM_NCDESTROY() AFX_WM_ENTRY(WM_NCDESTROY, Plain, OnNcDestroy)
 #define ON_WM_CLOSE() AFX_WM_ENTRY(WM_CLOSE, Plain, OnClose)
 #define ON_WM_SIZE() AFX_WM_ENTRY(WM_SIZE, Size, OnSize)
 #define ON_WM_ERASEBKGND() AFX_WM_ENTRY(WM_ERASEBKGND, Erase, OnEraseBkgnd)
@@ -143,15 +140,12 @@ protected:                                        \
 #define ON_WM_LBUTTONDBLCLK() AFX_WM_ENTRY(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_LBUTTONUP() AFX_WM_ENTRY(WM_LBUTTONUP, Mouse, OnLButtonUp)
 #define ON_WM_MOUSEMOVE() AFX_WM_ENTRY(WM_MOUSEMOVE, Mouse, OnMouseMove)
-#define ON_WM_MOUSEHOVER() AFX_WM_ENTRY(WM_MOUSEHOVER, Mouse, OnMouseHover)
 #define ON_WM_MOUSELEAVE() AFX_WM_ENTRY(WM_MOUSELEAVE, Plain, OnMouseLeave)
 #define ON_WM_MOUSEWHEEL() AFX_WM_ENTRY(WM_MOUSEWHEEL, Wheel, OnMouseWheel)
 #define ON_WM_CAPTURECHANGED() AFX_WM_ENTRY(WM_CAPTURECHANGED, Capture, OnCaptureChanged)
-#define ON_WM_SETCURSOR() AFX_WM_ENTRY(WM_SETCURSOR, Cursor, OnSetCursor)
 #define ON_WM_TIMER() AFX_WM_ENTRY(WM_TIMER, Timer, OnTimer)
 #define ON_WM_ACTIVATE() AFX_WM_ENTRY(WM_ACTIVATE, Activate, OnActivate)
 #define ON_WM_SETFOCUS() AFX_WM_ENTRY(WM_SETFOCUS, Focus, OnSetFocus)
-#define ON_WM_KILLFOCUS() AFX_WM_ENTRY(WM_KILLFOCUS, Focus, OnKillFocus)
 #define ON_WM_KEYDOWN() AFX_WM_ENTRY(WM_KEYDOWN, Key, OnKeyDown)
 #define ON_WM_CHAR() AFX_WM_ENTRY(WM_CHAR, Key, OnChar)
 #define ON_WM_GETDLGCODE() AFX_WM_ENTRY(WM_GETDLGCODE, DialogCode, OnGetDlgCode)

@@ -109,13 +109,10 @@ public:
     int Height() const { return bottom - top; }
     CSize Size() const { return CSize(Width(), Height()); }
     CPoint TopLeft() const { return CPoint(left, top); }
-    CPoint BottomRight() const { return CPoint(right, bottom); }
     CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
     BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
     BOOL IsRectEmpty() const { return ::IsRectEmpty(this); }
-    BOOL IsRectNull() const { return *this == CRect(); }
     void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
-    void SetRectEmpty() { *this = CRect(); }
     void InflateRect(int x, int y) { ::InflateRect(this, x, y); }
     void InflateRect(int l, int t, int r, int b) { SetRect(left - l, top - t, right + r, bottom + b); }
     void DeflateRect(int x, int y) { InflateRect(-x, -y); }

@@ -118,7 +118,6 @@ public:
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_EXSTYLE)); }
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0) { return ChangeStyle(GWL_STYLE, remove, add, flags); }
-    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0) { return ChangeStyle(GWL_EXSTYLE, remove, add, flags); }
     int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
 
@@ -138,7 +137,6 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCTW) { return static_cast<int>(Default()); }
     afx_msg void OnDestroy() { Default(); }
-    afx_msg void OnNcDestroy() { Default(); }
     afx_msg void OnClose() { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
@@ -147,15 +145,12 @@ protected:
     afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonUp(UINT, CPoint) { Default(); }
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
-    afx_msg void OnMouseHover(UINT, CPoint) { Default(); }
     afx_msg void OnMouseLeave() { Default(); }
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return static_cast<BOOL>(Default()); }
     afx_msg void OnCaptureChanged(CWnd*) { Default(); }
-    afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return static_cast<BOOL>(Default()); }
     afx_msg void OnTimer(UINT_PTR) { Default(); }
     afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
     afx_msg void OnSetFocus(CWnd*) { Default(); }
-    afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
@@ -220,11 +215,6 @@ template <auto Handler>
 LRESULT Capture(CWnd& window, WPARAM, LPARAM lParam) {
     return Call<Handler, void, CWnd*>(window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam)));
 }
-template <auto Handler>
-LRESULT Cursor(CWnd& window, WPARAM wParam, LPARAM lParam) {
-    return Call<Handler, BOOL, CWnd*, UINT, UINT>(
-        window, CWnd::FromHandlePermanent(reinterpret_cast<HWND>(wParam)), LOWORD(lParam), HIWORD(lParam));
-}
 
 }  // namespace afx
 
@@ -273,25 +263,13 @@ public:
         return CWnd::Create(L"LISTBOX", L"", style, rect, parent, id);
     }
     int AddString(LPCWSTR text) { return Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)); }
-    void ResetContent() { Ask(LB_RESETCONTENT); }
     int GetCount() const { return Ask(LB_GETCOUNT); }
     int GetCurSel() const { return Ask(LB_GETCURSEL); }
     int SetCurSel(int index) { return Ask(LB_SETCURSEL, static_cast<WPARAM>(index)); }
     int GetTextLen(int index) const { return Ask(LB_GETTEXTLEN, static_cast<WPARAM>(index)); }
     void GetText(int index, CString& text) const;
-    int FindStringExact(int startAfter, LPCWSTR text) const {
-        return Ask(LB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text));
-    }
     UINT ItemFromPoint(CPoint point, BOOL& outside) const;
-    int SetItemHeight(int index, UINT height) {
-        return Ask(LB_SETITEMHEIGHT, static_cast<WPARAM>(index), static_cast<LPARAM>(height));
-    }
     int GetItemHeight(int index) const { return Ask(LB_GETITEMHEIGHT, static_cast<WPARAM>(index)); }
-    int GetItemRect(int index, LPRECT rect) const {
-        return Ask(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect));
-    }
-    int GetTopIndex() const { return Ask(LB_GETTOPINDEX); }
-    int SetTopIndex(int index) { return Ask(LB_SETTOPINDEX, static_cast<WPARAM>(index)); }
 
 protected:
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}

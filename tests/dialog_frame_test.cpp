@@ -197,8 +197,7 @@ TEST(HelpPanel, ShowsTheTextOfTheControlUnderThePointer) {
     constexpr COLORREF kBack = RGB(20, 20, 20);
     WithGammaDialog({1, 100}, [&](DialogDriver& dialog) {
         const auto shows = [&](POINT at, bool text) {
-            dialog.PointAt(at);
-            EXPECT_TRUE(DialogDriver::WaitFor([&] { return dialog.HasText(kPanel, kBack) == text; }))
+            EXPECT_TRUE(dialog.PointUntil(at, [&] { return dialog.HasText(kPanel, kBack) == text; }))
                 << at.x << ", " << at.y;
             return dialog.PixelSum(kPanel);
         };

@@ -297,10 +297,18 @@ TEST(AudioDialog, UsesTheAudioChainInItsOwnOrder) {
     RunDialog([&] { ShowSettingsDialog(&pointer, EffectId::AudioChorus, 640, 480, 640, 480, record); },
               [&](DialogDriver&) {
                   const Lines expected = {
-                      "host.SetPreviewWindow(panel)", "host.SetPreviewOption(0)",    "host.SetPreviewMode(0)",
-                      "host.EnableVideoPreview(0)",   "host.GetAudioProcessors()",   "host.GetActiveAudioProcessors()",
-                      "active.FindByMoniker",         "all.FindByMoniker",           "all.GetItem(0)",
-                      "active.Add(filter, 0)",        "host.GetProcessorObject(256)"};
+                      "host.SetPreviewWindow(panel)",
+                      "host.SetPreviewOption(0)",
+                      "host.SetPreviewMode(0)",
+                      "host.EnableVideoPreview(0)",
+                      "host.GetAudioProcessors()",
+                      "host.GetActiveAudioProcessors()",
+                      "active.FindByMoniker",
+                      "all.FindByMoniker",
+                      "all.GetItem(0)",
+                      "active.Add(filter, 0)",
+                      "host.GetProcessorObject(256)",
+                      "filter.SetChorusParams(0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0)"};
                   EXPECT_EQ(WithoutRefresh(host.Calls().Take()), expected);
               });
     const Lines expected = {

@@ -125,19 +125,15 @@ TEST(KitItems, ADragOverAnotherItemDoesNotHoverIt) {
 TEST(KitItems, TheHoverFollowsThePointerAndPaintsOncePerChange) {
     Items items;
     items.dialog.Run([&](DialogDriver& driver) {
-        driver.PointAt(kOnA);
-        ASSERT_TRUE(DialogDriver::WaitFor([&] { return items.a.Hovered(); }));
+        ASSERT_TRUE(driver.PointUntil(kOnA, [&] { return items.a.Hovered(); }));
         const int paintings = items.a.paintings;
         driver.Move(kOnA);
         driver.Move({kOnA.x + 3, kOnA.y});
         EXPECT_EQ(items.a.paintings, paintings) << "moves within an item";
-        driver.PointAt(kOnB);
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return items.b.Hovered() && !items.a.Hovered(); }));
-        driver.PointAt(kOnDisabled);
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return !items.b.Hovered(); }));
+        EXPECT_TRUE(driver.PointUntil(kOnB, [&] { return items.b.Hovered() && !items.a.Hovered(); }));
+        EXPECT_TRUE(driver.PointUntil(kOnDisabled, [&] { return !items.b.Hovered(); }));
         EXPECT_FALSE(items.disabled.Hovered());
-        driver.PointAt(kOnA);
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return items.a.Hovered(); }));
+        EXPECT_TRUE(driver.PointUntil(kOnA, [&] { return items.a.Hovered(); }));
         ::SetCursorPos(1270, 1015);
         EXPECT_TRUE(DialogDriver::WaitFor([&] { return !items.a.Hovered(); })) << "leaving the window";
     });

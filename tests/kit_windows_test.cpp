@@ -93,11 +93,9 @@ TEST(Edit, BothHalvesActTogether) {
             edits.first.SetEnabled(true);
         });
         EXPECT_TRUE(DialogDriver::WaitFor([&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }));
-        driver.PointAt({100, 110});
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return driver.Pixel(100, 100) == RGB(90, 90, 90); }))
+        EXPECT_TRUE(driver.PointUntil({100, 110}, [&] { return driver.Pixel(100, 100) == RGB(90, 90, 90); }))
             << "the outline follows the pointer over the edit window";
-        driver.PointAt({300, 300});
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }));
+        EXPECT_TRUE(driver.PointUntil({300, 300}, [&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }));
     });
 }
 
@@ -351,16 +349,13 @@ TEST(HintTip, BelongsToAnItemWithATipTextOnly) {
                                 reinterpret_cast<LPARAM>(&found));
             return found;
         };
-        driver.PointAt({60, 110});
-        ASSERT_TRUE(DialogDriver::WaitFor([&] { return tip() != nullptr; }));
+        ASSERT_TRUE(driver.PointUntil({60, 110}, [&] { return tip() != nullptr; }));
         POINT anchor{52, 130};
         ::ClientToScreen(driver.Window(), &anchor);
         EXPECT_EQ(PlaceOf(tip()).left, anchor.x);
         EXPECT_EQ(PlaceOf(tip()).top, anchor.y);
-        driver.PointAt({60, 210});
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return tip() == nullptr; }));
-        driver.PointAt({60, 110});
-        ASSERT_TRUE(DialogDriver::WaitFor([&] { return tip() != nullptr; }));
+        EXPECT_TRUE(driver.PointUntil({60, 210}, [&] { return tip() == nullptr; }));
+        ASSERT_TRUE(driver.PointUntil({60, 110}, [&] { return tip() != nullptr; }));
         EXPECT_TRUE(DialogDriver::WaitFor([&] { return tip() == nullptr; })) << "it goes by itself";
     });
 }

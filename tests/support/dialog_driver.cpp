@@ -89,6 +89,15 @@ void DialogDriver::PointAt(POINT at) {
     Settle();
 }
 
+bool DialogDriver::PointUntil(POINT at, const std::function<bool()>& condition) {
+    LONG offset = 1;
+    return WaitFor([&] {
+        offset = 1 - offset;
+        PointAt({at.x + offset, at.y});
+        return condition();
+    });
+}
+
 void DialogDriver::Key(WPARAM key) {
     ::PostMessageW(m_dialog, WM_KEYDOWN, key, 1);
     ::PostMessageW(m_dialog, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));

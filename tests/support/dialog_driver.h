@@ -24,6 +24,8 @@ public:
     void Click(POINT at, HWND window = nullptr);
     /// Moves the real pointer.
     void PointAt(POINT at);
+    /// Moves the real pointer to a point and to and fro by a pixel there, as a hand does, until something is true.
+    bool PointUntil(POINT at, const std::function<bool()>& condition);
     void Key(WPARAM key);
     void Command(WORD id) { Send(WM_COMMAND, id, 0); }
     void Close() { Send(WM_CLOSE, 0, 0); }
