@@ -93,7 +93,9 @@ void CHintTip::OnPaint() {
     }
     {
         CTextGraphics graphics(buffer.Dc());
-        DrawTextIn(graphics, m_text, TextFontOfTip(), client, TextLayout::Tip, OpaqueColor(kTextColor));
+        CRect line = client;
+        line.InflateRect(2, 0);  // The width was truncated: in an exact rectangle the last letter might not fit.
+        DrawTextIn(graphics, m_text, TextFontOfTip(), line, TextLayout::Tip, OpaqueColor(kTextColor));
     }
     const LONG right = client.right - 1;
     const LONG bottom = client.bottom - 1;
