@@ -17,7 +17,7 @@ private:
                                  .max = 360,
                                  .field = &m_settings->hue,
                                  .standard = 0,
-                                 .help = L"Value used to change the color of the effect."}) &&
+                                 .help = kHueHelp}) &&
                AddSlider(m_noise, {.id = 16,
                                    .label = L"Noise(1 - 100):",
                                    .min = 1,

@@ -4,6 +4,10 @@
 
 #include "effects/effect_dlg.h"
 
+inline constexpr LPCWSTR kThresholdHelp =
+    L"Value used to control an object's detection level. A lower threshold provides stronger object detection.";
+inline constexpr LPCWSTR kHueHelp = L"Value used to change the color of the effect.";
+
 template <typename Filter, typename Settings>
 class CMotionDlg : public CEffectDlg<Filter, Settings> {
 protected:
@@ -11,9 +15,7 @@ protected:
     explicit CMotionDlg(EffectId id, FirstSync firstSync = FirstSync::OnFirstClick)
         : CEffectDlg<Filter, Settings>(id, {.firstSync = firstSync}) {}
 
-    bool AddThreshold(LPCWSTR help =
-                          L"Value used to control an object's detection level. A lower threshold provides "
-                          L"stronger object detection.") {
+    bool AddThreshold(LPCWSTR help = kThresholdHelp) {
         return this->AddSlider(
             m_threshold,
             {.id = 12,

@@ -1,6 +1,6 @@
 // Wave: a switch, the detection threshold and the speed of the waves.
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
+#include "effects/motion_dlg.h"
 
 namespace {
 
@@ -18,8 +18,7 @@ private:
                           .max = 100,
                           .field = &m_settings->threshold,
                           .standard = 70,
-                          .help = L"Value used to control an object's detection level. A lower threshold provides "
-                                  L"stronger object detection."}) &&
+                          .help = kThresholdHelp}) &&
                AddSlider(m_speed, {.id = 13,
                                    .label = L"Wave Speed(1 - 10):",
                                    .min = 1,

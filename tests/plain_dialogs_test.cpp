@@ -99,18 +99,36 @@ TEST(PlainDialogs, EveryControlPushesAllValuesOncePerMove) {
 }
 
 TEST(PlainDialogs, SetAsDefaultIsSavedByOkOnly) {
+    const struct {
+        const char* name;
+        POINT fromBottomRight;
+        WPARAM key;
+        std::int32_t result;
+    } ways[] = {{"OK", {-50, -20}, 0, 1},
+                {"Enter", {}, VK_RETURN, 1},
+                {"Cancel", {-120, -20}, 0, 2},
+                {"Esc", {}, VK_ESCAPE, 2},
+                {"close button", {-15, 0}, 0, 2}};
     for (const PlainDialogRow& row : PlainDialogRows()) {
-        for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
-            SCOPED_TRACE(static_cast<int>(row.effect));
+        for (const auto& way : ways) {
+            SCOPED_TRACE(testing::Message() << static_cast<int>(row.effect) << " " << way.name);
             const Opening& lowest = row.openings[1];
             Session session(row.effect, lowest.record);
             session.Run([&](DialogDriver& dialog) {
                 session.Pushes();
                 ClickDefault(dialog);
                 EXPECT_EQ(session.Pushes(), row.defaultPush);
-                dialog.Key(key);
+                const RECT client = dialog.ClientRect();
+                if (way.key) {
+                    dialog.Key(way.key);
+                } else {
+                    dialog.Click({client.right + way.fromBottomRight.x,
+                                  way.fromBottomRight.y ? client.bottom + way.fromBottomRight.y : 15});
+                }
+                EXPECT_FALSE(dialog.IsOpen());
             });
-            EXPECT_EQ(session.record, key == VK_RETURN ? row.defaults : lowest.record);
+            EXPECT_EQ(session.result, way.result);
+            EXPECT_EQ(session.record, way.result == 1 ? row.defaults : lowest.record);
         }
     }
 }
