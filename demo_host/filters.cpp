@@ -58,7 +58,7 @@ public:
         if (!m_enabled) return S_OK;
         for (std::size_t in = 0; in < m_table.size(); ++in) {
             const double out = 255.0 * std::pow(static_cast<double>(in) / 255.0, 100.0 / params.value);
-            m_table[in] = static_cast<std::uint8_t>(out + 0.5);
+            m_table[in] = static_cast<std::uint8_t>(std::lround(out));
         }
         return S_OK;
     }

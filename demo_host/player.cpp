@@ -1,6 +1,7 @@
 #include "demo_host/player.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #include "demo_host/trace.h"
@@ -19,8 +20,8 @@ void DrawFrame(HWND window, const Frame& frame) {
     if (client.right <= 0 || client.bottom <= 0) return;
     const double scale =
         (std::min)(static_cast<double>(client.right) / frame.width, static_cast<double>(client.bottom) / frame.height);
-    const int width = (std::max)(static_cast<int>(frame.width * scale + 0.5), 1);
-    const int height = (std::max)(static_cast<int>(frame.height * scale + 0.5), 1);
+    const int width = (std::max)(static_cast<int>(std::lround(frame.width * scale)), 1);
+    const int height = (std::max)(static_cast<int>(std::lround(frame.height * scale)), 1);
     const int x = (client.right - width) / 2;
     const int y = (client.bottom - height) / 2;
 
