@@ -14,7 +14,7 @@ namespace {
 // --- slots: a function table whose every entry tells its own number ---
 
 int g_calledSlot = -1;
-std::size_t g_argumentSum = 0;
+int g_argumentSum = 0;
 
 template <int Slot>
 HRESULT STDMETHODCALLTYPE NoArgument(void*) {
@@ -24,27 +24,26 @@ HRESULT STDMETHODCALLTYPE NoArgument(void*) {
 template <int Slot>
 HRESULT STDMETHODCALLTYPE OneArgument(void*, std::size_t a) {
     g_calledSlot = Slot;
-    g_argumentSum = a;
+    g_argumentSum = static_cast<int>(a);
     return S_OK;
 }
 template <int Slot>
 HRESULT STDMETHODCALLTYPE TwoArguments(void*, std::size_t a, std::size_t b) {
     g_calledSlot = Slot;
-    g_argumentSum = a + b;
+    g_argumentSum = static_cast<int>(a + b);
     return S_OK;
 }
 template <int Slot>
 HRESULT STDMETHODCALLTYPE ByValue(void*, GammaParams params) {
     g_calledSlot = Slot;
-    g_argumentSum =
-        static_cast<std::size_t>(params.value * 1000 + params.enabled * 100 + params.reserved1 * 10 + params.reserved2);
+    g_argumentSum = params.value * 1000 + params.enabled * 100 + params.reserved1 * 10 + params.reserved2;
     return S_OK;
 }
 
 template <int Slot>
 HRESULT STDMETHODCALLTYPE ChorusByValue(void*, ChorusParams params) {
     g_calledSlot = Slot;
-    g_argumentSum = static_cast<std::size_t>(params.dryMix + params.enabled);
+    g_argumentSum = params.dryMix + params.enabled;
     return S_OK;
 }
 
@@ -192,7 +191,7 @@ TEST(Contract, EachOperationLiesAtItsSlot) {
         row.call();
         EXPECT_EQ(g_calledSlot, row.slot);
     }
-    EXPECT_EQ(g_argumentSum, 7654U) << "a structure arrives by value, field by field";
+    EXPECT_EQ(g_argumentSum, 7654) << "a structure arrives by value, field by field";
 }
 
 TEST(Contract, StructuresAreLaidOutAsHostsAndFiltersKnowThem) {
