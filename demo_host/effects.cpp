@@ -31,7 +31,7 @@ const std::vector<Effect>& AllEffects() {
          "deblocking",
          CLSID_EffectDeblocking,
          {{"enabled", 1},
-          {"algorithm", 1},
+          {"algorithm", 0},
           {"edgeThreshold", 48},
           {"blockOffsetX", 0},
           {"blockOffsetY", 0},

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <windows.h>
@@ -28,9 +27,8 @@ constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
 constexpr int kExitLeak = 3;
 
-// The library starts the preview half a second after the dialog opened; by now it runs.
-constexpr UINT kScreenshotDelayMs = 1500;
-constexpr UINT kClickDelayMs = 200;
+constexpr int kFramesBeforePicture = 25;
+constexpr UINT kPictureTimerMs = 200;
 constexpr LPARAM kOnEnable = MAKELPARAM(40, 305);
 // Records of effects that the demo has no fields for: larger than any of them.
 constexpr std::size_t kLargestRecord = 32;
@@ -49,8 +47,7 @@ constexpr char kHelp[] =
 struct Options {
     const Effect* effect = nullptr;
     std::wstring media;
-    std::wstring screenshot;
-    std::wstring screenshotWhenOff;
+    std::vector<std::wstring> pictures;  ///< Of the dialog; the second with "Enable" clicked.
     std::wstring gallery;
     bool trace = false;
     bool list = false;
@@ -58,8 +55,17 @@ struct Options {
     bool help = false;
 };
 
+/// The C library's own conversion of wide text ends at the first letter that its locale lacks.
+std::string Utf8(const std::wstring& text) {
+    std::string bytes(3 * text.size(), '\0');  // No UTF-16 unit becomes more than three bytes.
+    bytes.resize(static_cast<std::size_t>(::WideCharToMultiByte(
+        CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(), static_cast<int>(bytes.size()), nullptr,
+        nullptr)));
+    return bytes;
+}
+
 int Complain(const std::wstring& what) {
-    std::fprintf(stderr, "demo: %ls\n", what.c_str());
+    std::fprintf(stderr, "demo: %s\n", Utf8(what).c_str());
     return kExitUsage;
 }
 
@@ -95,7 +101,9 @@ std::optional<Options> ParseCommandLine() {
         } else if (argument == L"--media") {
             hasValue = takeFile(options.media);
         } else if (argument == L"--screenshot") {
-            hasValue = takeFile(options.screenshot);
+            std::wstring file;
+            hasValue = takeFile(file);
+            options.pictures = {file};
         } else if (argument == L"--gallery") {
             hasValue = takeFile(options.gallery);
         } else if (argument.starts_with(L'-')) {
@@ -142,24 +150,25 @@ const char* NameOf(std::int32_t result) {
 // Takes pictures from inside the dialog's message loop, and closes the dialog after the last.
 struct Photographer {
     const CPlayer* player = nullptr;
-    std::wstring file;
-    std::wstring fileWhenOff;  ///< Of the dialog after a click on "Enable"; empty for none.
-    bool succeeded = true;
+    std::vector<std::wstring> files;  ///< Still to be written; between two of them "Enable" is clicked.
+    bool failed = false;
 };
 Photographer g_photographer;
 
-void CALLBACK TakePicture(HWND, UINT, UINT_PTR timer, DWORD) {
-    ::KillTimer(nullptr, timer);
-    const HWND dialog = g_photographer.player->Dialog();
-    if (!dialog) return;
-    g_photographer.succeeded = SaveScreenOf(dialog, g_photographer.file) && g_photographer.succeeded;
-    if (g_photographer.fileWhenOff.empty()) {
+void CALLBACK TakePicture(HWND, UINT, UINT_PTR, DWORD) {
+    auto& [player, files, failed] = g_photographer;
+    const HWND dialog = player->Dialog();
+    if (files.empty() || !dialog || player->PreviewedFrames() < kFramesBeforePicture) return;
+    if (!SaveScreenOf(dialog, files.front())) {
+        Complain(L"the picture can't be written to '" + files.front() + L"'");
+        failed = true;
+    }
+    files.erase(files.begin());
+    if (files.empty()) {
         ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
         return;
     }
     for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::PostMessageW(dialog, message, 0, kOnEnable);
-    g_photographer.file = std::exchange(g_photographer.fileWhenOff, {});
-    ::SetTimer(nullptr, 0, kClickDelayMs, TakePicture);
 }
 
 int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
@@ -169,10 +178,8 @@ int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
         Complain(L"the player's window can't be opened");
         return kExitFailed;
     }
-    if (!options.screenshot.empty()) {
-        g_photographer = {player.Get(), options.screenshot, options.screenshotWhenOff};
-        ::SetTimer(nullptr, 0, kScreenshotDelayMs, TakePicture);
-    }
+    g_photographer = {player.Get(), options.pictures};
+    const UINT_PTR timer = options.pictures.empty() ? 0 : ::SetTimer(nullptr, 0, kPictureTimerMs, TakePicture);
 
     std::vector<std::int32_t> record;
     for (const RecordField& field : effect.fields) record.push_back(field.initial);
@@ -185,13 +192,13 @@ int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
         ShowSettingsDialog(&host, effect.id, video.cx, video.cy, frame.cx, frame.cy, record.data());
     std::printf("result: %d (%s)\n", result, NameOf(result));
     PrintRecord("after", effect, record);
+    if (timer) ::KillTimer(nullptr, timer);
     player->Close();
 
-    if (!g_photographer.succeeded) {
-        Complain(L"the picture can't be written to '" + options.screenshot + L"'");
-        return kExitFailed;
-    }
-    return kExitOk;
+    const bool shown = result == kSettingsAccepted || result == kSettingsCancelled;
+    if (!shown) Complain(L"the dialog did not open");
+    for (const std::wstring& file : g_photographer.files) Complain(L"no picture was taken for '" + file + L"'");
+    return shown && g_photographer.files.empty() && !g_photographer.failed ? kExitOk : kExitFailed;
 }
 
 std::unique_ptr<IClip> OpenClip(const Options& options) {
@@ -204,9 +211,9 @@ int WriteGallery(Options options) {
     int exitCode = kExitOk;
     for (const Effect& effect : AllEffects()) {
         const std::string name = effect.name;
+        const std::wstring file = options.gallery + L"\\" + std::wstring(name.begin(), name.end());
         options.effect = &effect;
-        options.screenshot = options.gallery + L"\\" + std::wstring(name.begin(), name.end()) + L".png";
-        options.screenshotWhenOff = options.gallery + L"\\" + std::wstring(name.begin(), name.end()) + L"-off.png";
+        options.pictures = {file + L".png", file + L"-off.png"};
         std::printf("%s\n", effect.name);
         exitCode = (std::max)(exitCode, ShowDialog(options, OpenClip(options)));
     }
@@ -223,7 +230,7 @@ int Run(const Options& options) {
         return kExitOk;
     }
     if (options.trace) EnableTrace();
-    if (options.kit) return ShowKitGallery(options.screenshot);
+    if (options.kit) return ShowKitGallery(options.pictures.empty() ? L"" : options.pictures.front());
     std::unique_ptr<IClip> clip = OpenClip(options);
     if (!clip) return Complain(L"can't read a picture from '" + options.media + L"'");
     const int exitCode = options.gallery.empty() ? ShowDialog(options, std::move(clip)) : WriteGallery(options);
@@ -238,7 +245,9 @@ int Run(const Options& options) {
 }  // namespace
 
 int main() {
-    ::_setmode(::_fileno(stdout), _O_BINARY);  // Lines end as scripts on either side expect them.
+    // Lines end as scripts on either side expect them.
+    ::_setmode(::_fileno(stdout), _O_BINARY);
+    ::_setmode(::_fileno(stderr), _O_BINARY);
     const std::optional<Options> options = ParseCommandLine();
     if (!options) return kExitUsage;
     ULONG_PTR gdiplus = 0;

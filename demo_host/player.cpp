@@ -122,12 +122,14 @@ void CPlayer::PlayFrame() {
     m_frame = m_clip->FrameAt(::GetTickCount() - m_started);
     for (const auto& processor : m_activeVideo->Processors()) processor->Process(m_frame);
     DrawFrame(m_window, m_frame);
+    if (m_previewing) ++m_previewedFrames;
     if (m_previewing && m_showPicture && m_previewWindow) DrawFrame(m_previewWindow, m_frame);
 }
 
 HRESULT CPlayer::RefreshPreview() {
     Trace("host.RefreshPreview()");
     m_previewing = true;
+    m_previewedFrames = 0;
     return S_OK;
 }
 

@@ -20,6 +20,8 @@ public:
     SIZE FrameSize() const;
     /// The dialog that was last given a preview; null before the first.
     HWND Dialog() const;
+    /// How many frames were played since the preview was started.
+    int PreviewedFrames() const { return m_previewedFrames; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         return Answer(object, iid == IID_IUnknown || iid == IID_IDispatch ? this : nullptr);
@@ -51,6 +53,7 @@ private:
     HWND m_previewWindow = nullptr;
     HWND m_dialog = nullptr;
     bool m_previewing = false;
+    int m_previewedFrames = 0;
     bool m_showPicture = false;
     List m_allVideo = Adopt(new CProcessorList("video"));
     List m_activeVideo = Adopt(new CProcessorList("activeVideo"));
