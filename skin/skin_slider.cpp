@@ -65,7 +65,7 @@ CRect CSkinSlider::Bounds() const {
 void CSkinSlider::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
     // Provisional, on purpose by another formula than the painting's, which replaces it.
-    const double scaled = (TrackRight(cx) - kTrackLeft) * m_position / (m_maximum - m_minimum);
+    const double scaled = IsFixed() ? 0.0 : (TrackRight(cx) - kTrackLeft) * m_position / (m_maximum - m_minimum);
     const int middle = TruncateToInt(TruncateToInt(scaled) + m_minimum);
     m_thumb.SetRect(middle - 3, 8, middle + 8, 19);
 }
@@ -97,7 +97,8 @@ void CSkinSlider::Paint(HDC target) {
 
     const bool enabled = IsWindowEnabled() != FALSE;
     m_track.SetRect(kTrackLeft, kTrackTop, TrackRight(client.Width()), kTrackBottom);
-    const int filled = TruncateToInt((m_position - m_minimum) * (m_track.right - kTrackLeft) / (m_maximum - m_minimum));
+    const double length = m_track.right - kTrackLeft;
+    const int filled = IsFixed() ? 0 : TruncateToInt((m_position - m_minimum) * length / (m_maximum - m_minimum));
     const POINT outline[] = {
         {m_track.left - 1, m_track.top - 1},
         {m_track.right, m_track.top - 1},

@@ -55,6 +55,7 @@ private:
     void Paint(HDC target);
     void Propose(SliderCode code, double value);
     State StateAt(CPoint point) const;
+    bool IsFixed() const { return m_maximum == m_minimum; }  // A range of one position.
 
     State m_state = State::Idle;
     int m_dragOffset = 0;  // From the pointer to the thumb's right edge.
