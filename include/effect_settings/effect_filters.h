@@ -99,6 +99,19 @@ inline constexpr IID IID_IEffectVideoRotation = MakeEffectGuid(0xE2B7DE1D);
 inline constexpr CLSID CLSID_EffectAudioChorus = MakeEffectGuid(0xE2B7DB38);
 inline constexpr IID IID_IEffectAudioChorus = MakeEffectGuid(0xE2B7DB39);
 
+/// The rectangle to which an effect is limited, as the filters get it that take structures: by value, in pixels of the
+/// processed frame, right and bottom just outside of the rectangle. Left and top may be negative, right and bottom are
+/// at least 1. When the user's rectangle is not usable it is (0, 0, 1, 1), converted from source pixels.
+struct AreaParams {
+    std::int32_t left;
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+    std::int32_t enabled;      ///< 1 limits the effect to the rectangle, 0 applies it to whole frames.
+    std::int32_t reserved[5];  ///< Always 0, 0, 1, 1, 0.
+};
+static_assert(sizeof(AreaParams) == 40);
+
 /// What IEffectGammaCorrection takes, by value. Note the order: here the factor comes first.
 struct GammaParams {
     std::int32_t value;    ///< Gamma factor in hundredths, 1 to 500; 100 leaves the picture as it is, more is brighter.
@@ -136,6 +149,31 @@ struct IEffectSwitch : IEffectDispatch {
     virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
 };
 
+/// The head of those that can be limited to a rectangle. Its edges come in pixels of the processed frame, right and
+/// bottom just outside of the rectangle; left and top may be negative. In a push that has no usable rectangle they are
+/// 0, 0, 1, 1, for some effects converted from source pixels to frame pixels.
+struct IEffectAreaEdges : IEffectSwitch {
+    EFFECT_SETTINGS_RESERVED_SLOT(9)
+    /// Slot 10.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaLeft(LONG left) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(11)
+    /// Slot 12.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaTop(LONG top) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(13)
+    /// Slot 14. At least 1.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaRight(LONG right) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(15)
+    /// Slot 16. At least 1.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaBottom(LONG bottom) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(17)
+};
+
+/// The head of those whose area switch lies at slot 18.
+struct IEffectArea : IEffectAreaEdges {
+    /// Slot 18. VARIANT_TRUE limits the effect to the rectangle, VARIANT_FALSE applies it to whole frames.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaEnable(VARIANT_BOOL enable) = 0;
+};
+
 /// Auto Contrast (EffectId 1), IID_IEffectAutoContrast.
 struct IEffectAutoContrast : IEffectSwitch {};
 
@@ -157,6 +195,30 @@ struct IEffectBrightness : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(14)
     /// Slot 15. Change of the brightness of what moves, -1000 to 1000.
     virtual HRESULT STDMETHODCALLTYPE put_Brightness(LONG brightness) = 0;
+};
+
+/// What IEffectColor takes, by value. Note the order, which is not the record's.
+struct ColorParams {
+    std::int32_t enabled;      ///< 0 or 1; with 0 the filter passes frames through.
+    std::int32_t brightness;   ///< -100 to 100; 0 leaves it as it is.
+    std::int32_t contrast;     ///< -100 to 100; 0 leaves it as it is.
+    std::int32_t hue;          ///< Shift in degrees, -180 to 180.
+    std::int32_t saturation;   ///< -100 to 100; 0 leaves it as it is.
+    std::int32_t invert;       ///< 1 inverts the colours.
+    std::int32_t reserved[6];  ///< Always 1, 0, 0, 0, 0, 1.
+};
+static_assert(sizeof(ColorParams) == 48);
+
+/// Color (EffectId 5), IID_IEffectColor. Each push calls both.
+struct IEffectColor : IUnknown {
+    EFFECT_SETTINGS_RESERVED_SLOT(3)
+    EFFECT_SETTINGS_RESERVED_SLOT(4)
+    /// Slot 5. Takes all values but the area at once.
+    virtual HRESULT STDMETHODCALLTYPE SetColorParams(ColorParams params) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(6)
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    /// Slot 8.
+    virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
 };
 
 /// Deblocking (EffectId 6), IID_IEffectDeblocking.
@@ -202,6 +264,106 @@ struct IEffectEdgeEnhance : IEffectDispatch {
     virtual HRESULT STDMETHODCALLTYPE put_Multiplier(LONG multiplier) = 0;
 };
 
+/// Aging (EffectId 8), IID_IEffectAging. Its area switch is not where the others have theirs.
+struct IEffectAging : IEffectAreaEdges {
+    /// Slot 18. Where the old colours show: 1 all, 2 to 8 (one bit each) channels 1 to 3, 16 luminance.
+    virtual HRESULT STDMETHODCALLTYPE put_Channel(LONG channel) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. VARIANT_TRUE gives the colours of an old film.
+    virtual HRESULT STDMETHODCALLTYPE put_OldColor(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. VARIANT_TRUE adds scratch lines.
+    virtual HRESULT STDMETHODCALLTYPE put_Scratches(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(23)
+    /// Slot 24. Most scratch lines in a frame, 0 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_MaxScratches(LONG count) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(25)
+    /// Slot 26. Greatest height of a scratch, 1 to 1600.
+    virtual HRESULT STDMETHODCALLTYPE put_ScratchHeight(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(27)
+    /// Slot 28. VARIANT_TRUE adds dust.
+    virtual HRESULT STDMETHODCALLTYPE put_Dust(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(29)
+    /// Slot 30. VARIANT_TRUE adds it at random; the other settings of dust then do not apply.
+    virtual HRESULT STDMETHODCALLTYPE put_RandomDust(VARIANT_BOOL random) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(31)
+    /// Slot 32. VARIANT_TRUE varies the density at random.
+    virtual HRESULT STDMETHODCALLTYPE put_DustRandomDensity(VARIANT_BOOL random) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(33)
+    /// Slot 34. 0 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_DustDensity(LONG density) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(35)
+    /// Slot 36. VARIANT_TRUE adds to every frame, VARIANT_FALSE to random ones.
+    virtual HRESULT STDMETHODCALLTYPE put_AlwaysAddDust(VARIANT_BOOL always) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(37)
+    /// Slot 38. The custom colour, a COLORREF.
+    virtual HRESULT STDMETHODCALLTYPE put_DustColor(LONG color) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(39)
+    /// Slot 40. VARIANT_TRUE adds pits.
+    virtual HRESULT STDMETHODCALLTYPE put_Pits(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(41)
+    /// Slot 42. VARIANT_TRUE adds them at random; the other settings of pits then do not apply.
+    virtual HRESULT STDMETHODCALLTYPE put_RandomPits(VARIANT_BOOL random) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(43)
+    /// Slot 44. VARIANT_TRUE varies the density at random.
+    virtual HRESULT STDMETHODCALLTYPE put_PitsRandomDensity(VARIANT_BOOL random) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(45)
+    /// Slot 46. 0 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_PitsDensity(LONG density) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(47)
+    /// Slot 48. VARIANT_TRUE adds to every frame, VARIANT_FALSE to random ones.
+    virtual HRESULT STDMETHODCALLTYPE put_AlwaysAddPits(VARIANT_BOOL always) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(49)
+    /// Slot 50. 1 random, 2 original (black), 4 custom.
+    virtual HRESULT STDMETHODCALLTYPE put_DustColorMode(LONG mode) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(51)
+    /// Slot 52. VARIANT_TRUE limits the effect to the rectangle.
+    virtual HRESULT STDMETHODCALLTYPE put_AreaEnable(VARIANT_BOOL enable) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(53)
+    /// Slot 54. 1 random, 2 original (grey), 4 custom.
+    virtual HRESULT STDMETHODCALLTYPE put_PitsColorMode(LONG mode) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(55)
+    /// Slot 56. The custom colour, a COLORREF.
+    virtual HRESULT STDMETHODCALLTYPE put_PitsColor(LONG color) = 0;
+};
+
+/// Bump Map (EffectId 9), IID_IEffectBumpMap.
+struct IEffectBumpMap : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. Direction of the light, 0 to 360 degrees.
+    virtual HRESULT STDMETHODCALLTYPE put_LightAngle(LONG degrees) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. Height of the light, 0 to 90 degrees.
+    virtual HRESULT STDMETHODCALLTYPE put_Elevation(LONG degrees) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(23)
+    /// Slot 24. Depth of the shadows, 1 to 65.
+    virtual HRESULT STDMETHODCALLTYPE put_Depth(LONG depth) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(25)
+    /// Slot 26. Shift of the result in source pixels; negative is to the left.
+    virtual HRESULT STDMETHODCALLTYPE put_XOffset(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(27)
+    /// Slot 28. Shift of the result in source pixels; negative is down.
+    virtual HRESULT STDMETHODCALLTYPE put_YOffset(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(29)
+    /// Slot 30. Strength of the ambient light, 0 to 255; more light, less shadow.
+    virtual HRESULT STDMETHODCALLTYPE put_Ambient(LONG ambient) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(31)
+    EFFECT_SETTINGS_RESERVED_SLOT(32)
+    EFFECT_SETTINGS_RESERVED_SLOT(33)
+    /// Slot 34. VARIANT_TRUE exchanges shadow and light.
+    virtual HRESULT STDMETHODCALLTYPE put_Invert(VARIANT_BOOL invert) = 0;
+};
+
+/// Dizzy (EffectId 10), IID_IEffectDizzy.
+struct IEffectDizzy : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 0 to 1000.
+    virtual HRESULT STDMETHODCALLTYPE put_ZoomLevel(LONG level) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. 0 to 1000.
+    virtual HRESULT STDMETHODCALLTYPE put_RotationSpeed(LONG speed) = 0;
+};
+
 /// Fire (EffectId 11), IID_IEffectFire.
 struct IEffectFire : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
@@ -236,6 +398,19 @@ struct IEffectFire : IEffectSwitch {
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
 };
 
+/// Glass Tile (EffectId 12), IID_IEffectGlassTile. A push without a usable rectangle leaves out the area switch.
+struct IEffectGlassTile : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 2 to 50.
+    virtual HRESULT STDMETHODCALLTYPE put_TileWidth(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. 2 to 50.
+    virtual HRESULT STDMETHODCALLTYPE put_TileHeight(LONG pixels) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(23)
+    /// Slot 24. 2 to 10.
+    virtual HRESULT STDMETHODCALLTYPE put_Refraction(LONG refraction) = 0;
+};
+
 /// Hologram (EffectId 13), IID_IEffectHologram.
 struct IEffectHologram : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
@@ -259,6 +434,16 @@ struct IEffectHologram : IEffectSwitch {
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
 };
 
+/// Lens (EffectId 14), IID_IEffectLens.
+struct IEffectLens : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 10 to 160.
+    virtual HRESULT STDMETHODCALLTYPE put_Refraction(LONG refraction) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. VARIANT_TRUE keeps the picture around the lens.
+    virtual HRESULT STDMETHODCALLTYPE put_KeepSurroundings(VARIANT_BOOL keep) = 0;
+};
+
 /// Lightning (EffectId 15), IID_IEffectLightning.
 struct IEffectLightning : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
@@ -271,6 +456,16 @@ struct IEffectLightning : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(14)
     /// Slot 15. VARIANT_TRUE compares frames with a black one instead of a reference frame.
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
+};
+
+/// Maze (EffectId 16), IID_IEffectMaze. A push without a usable rectangle leaves out the area switch.
+struct IEffectMaze : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 0 to 64.
+    virtual HRESULT STDMETHODCALLTYPE put_Divisions(LONG divisions) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. 0 breaks from the centre, 1 distorted.
+    virtual HRESULT STDMETHODCALLTYPE put_BreakKind(LONG kind) = 0;
 };
 
 /// Motion Blur (EffectId 17), IID_IEffectMotionBlur.
@@ -329,11 +524,34 @@ struct IEffectMotionMosaic : IEffectSwitch {
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
 };
 
+/// Motion Scan (EffectId 20), IID_IEffectMotionScan.
+struct IEffectMotionScan : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. Lines of the source video that the scan moves on per frame.
+    virtual HRESULT STDMETHODCALLTYPE put_LineIncrement(LONG lines) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. VARIANT_TRUE shows the line that is scanned.
+    virtual HRESULT STDMETHODCALLTYPE put_ShowScanLine(VARIANT_BOOL show) = 0;
+};
+
 /// Particles (EffectId 21), IID_IEffectParticles.
 struct IEffectParticles : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. 1 to 6.
     virtual HRESULT STDMETHODCALLTYPE put_Distortion(LONG level) = 0;
+};
+
+/// Rain (EffectId 22), IID_IEffectRain.
+struct IEffectRain : IEffectArea {
+    EFFECT_SETTINGS_RESERVED_SLOT(19)
+    /// Slot 20. 1 to 10.
+    virtual HRESULT STDMETHODCALLTYPE put_WaveSpeed(LONG speed) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(21)
+    /// Slot 22. 1 to 100.
+    virtual HRESULT STDMETHODCALLTYPE put_Density(LONG density) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(23)
+    /// Slot 24. VARIANT_TRUE adds custom rain drops.
+    virtual HRESULT STDMETHODCALLTYPE put_CustomRainDrops(VARIANT_BOOL custom) = 0;
 };
 
 /// Streak (EffectId 23), IID_IEffectStreak.
@@ -351,6 +569,54 @@ struct IEffectWave : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
     virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
+};
+
+/// What IEffectEmboss takes, by value: the values, then the effect's defaults.
+struct EmbossParams {
+    std::int32_t lightAngle;         ///< Direction of the light in degrees, 0 to 360.
+    std::int32_t elevation;          ///< Elevation of the light in degrees, 0 (outer) to 180 (inner).
+    std::int32_t depth;              ///< 1 to 100.
+    std::int32_t emboss;             ///< 1 embosses, 0 makes a bump map.
+    std::int32_t enabled;            ///< 0 or 1; with 0 the filter passes frames through.
+    std::int32_t defaultLightAngle;  ///< Always 180.
+    std::int32_t defaultElevation;   ///< Always 90.
+    std::int32_t defaultDepth;       ///< Always 50.
+    std::int32_t defaultEmboss;      ///< Always 1.
+    std::int32_t defaultEnabled;     ///< Always 1.
+};
+static_assert(sizeof(EmbossParams) == 40);
+
+/// Emboss (EffectId 25), IID_IEffectEmboss. Each push calls both.
+struct IEffectEmboss : IUnknown {
+    EFFECT_SETTINGS_RESERVED_SLOT(3)
+    EFFECT_SETTINGS_RESERVED_SLOT(4)
+    EFFECT_SETTINGS_RESERVED_SLOT(5)
+    /// Slot 6. Takes all values but the area at once.
+    virtual HRESULT STDMETHODCALLTYPE SetEmbossParams(EmbossParams params) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    /// Slot 8.
+    virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
+};
+
+/// What IEffectMosaic takes, by value. Note the order: here the size comes first.
+struct MosaicParams {
+    std::int32_t mosaicSize;  ///< Side of a square in pixels, 1 to 64; 1 leaves the picture as it is.
+    std::int32_t enabled;     ///< 0 or 1; with 0 the filter passes frames through.
+    std::int32_t reserved1;   ///< Always 0.
+    std::int32_t reserved2;   ///< Always 0.
+};
+static_assert(sizeof(MosaicParams) == 16);
+
+/// Mosaic (EffectId 27), IID_IEffectMosaic. Each push calls both.
+struct IEffectMosaic : IUnknown {
+    EFFECT_SETTINGS_RESERVED_SLOT(3)
+    EFFECT_SETTINGS_RESERVED_SLOT(4)
+    EFFECT_SETTINGS_RESERVED_SLOT(5)
+    /// Slot 6. Takes all values but the area at once.
+    virtual HRESULT STDMETHODCALLTYPE SetMosaicParams(MosaicParams params) = 0;
+    EFFECT_SETTINGS_RESERVED_SLOT(7)
+    /// Slot 8.
+    virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
 };
 
 /// Unsharp Mask (EffectId 28), IID_IEffectUnsharpMask.

@@ -63,14 +63,19 @@ inline constexpr std::int32_t kLastEffectId = 30;
 /// Any one of the records below: the one that belongs to the EffectId of the call. Records are owned by the host, read
 /// when the dialog opens and written only when the user presses OK. Values out of a range are clamped when shown and
 /// so come back clamped; "default" is what "Set as default" sets.
+///
+/// Eleven effects can be limited to a rectangle of the video, their area, whose right and bottom edges lie just outside
+/// of it. It is mended as soon as the dialog opens, in the caller's record and even if the dialog is then cancelled:
+/// right and bottom are brought into 1 to the video's width and height, left and top below right and bottom. OK stores
+/// the edges as the user typed them; it refuses a rectangle that is empty or reaches over the right or bottom edge of
+/// the video only while the area is switched on.
 using EffectSettingsRecord = void;
 
 /// Settings of the Gamma Correction effect (EffectId 26).
 /// Owned by the host; read when the dialog opens, written only when the user presses OK.
 struct GammaCorrectionSettings {
     std::int32_t enabled;  ///< 0 or 1.
-    std::int32_t
-        value;  ///< Gamma factor in hundredths: 1 to 500, 100 is neutral. Values outside are clamped when shown.
+    std::int32_t value;    ///< Gamma factor in hundredths: 1 to 500, 100 is neutral.
 };
 static_assert(sizeof(GammaCorrectionSettings) == 8);
 
@@ -114,6 +119,22 @@ struct BrightnessSettings {
 };
 static_assert(sizeof(BrightnessSettings) == 16);
 
+/// Settings of the Color effect (EffectId 5).
+struct ColorSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t invert;       ///< 0 or 1; default 0.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t hue;          ///< -180 to 180 degrees; default 0.
+    std::int32_t saturation;   ///< -100 to 100; default 0.
+    std::int32_t brightness;   ///< -100 to 100; default 0.
+    std::int32_t contrast;     ///< -100 to 100; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(ColorSettings) == 44);
+
 /// Settings of the Deblocking effect (EffectId 6).
 struct DeblockingSettings {
     std::int32_t enabled;        ///< 0 or 1; default 1.
@@ -134,6 +155,68 @@ struct EdgeEnhanceSettings {
 };
 static_assert(sizeof(EdgeEnhanceSettings) == 12);
 
+/// Settings of the Aging effect (EffectId 8). A channel or colour mode that is no choice selects none, and OK keeps it
+/// until the user selects one.
+struct AgingSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+    std::int32_t oldColor;           ///< 0 or 1; default 1.
+    std::int32_t channel;            ///< 0 all (the default), 1 to 3 a channel, 4 luminance, else none.
+    std::int32_t scratches;          ///< 0 or 1; default 1.
+    std::int32_t maxScratches;       ///< 0 to 100 lines per frame; default 2.
+    std::int32_t scratchHeight;      ///< 1 to 1600 pixels; default 1600.
+    std::int32_t dust;               ///< 0 or 1; default 1.
+    std::int32_t randomDust;         ///< 0 or 1; default 1. With 1 the other settings of dust do not apply.
+    std::int32_t dustRandomDensity;  ///< 0 or 1; default 1. With 1 the density does not apply.
+    std::int32_t alwaysAddDust;      ///< 0 or 1; default 0. 0 adds to random frames, 1 to every frame.
+    std::int32_t dustDensity;        ///< 0 to 100; default 1.
+    std::int32_t dustColorMode;      ///< 0 random, 1 original (black, the default), 2 custom, else none.
+    std::int32_t dustColor;          ///< Custom colour, 0x00BBGGRR (higher bits are dropped); default 0x000000.
+    std::int32_t pits;               ///< 0 or 1; default 1.
+    std::int32_t randomPits;         ///< 0 or 1; default 1. With 1 the other settings of pits do not apply.
+    std::int32_t pitsRandomDensity;  ///< 0 or 1; default 1. With 1 the density does not apply.
+    std::int32_t alwaysAddPits;      ///< 0 or 1; default 0. 0 adds to random frames, 1 to every frame.
+    std::int32_t pitsDensity;        ///< 0 to 100; default 1.
+    std::int32_t pitsColorMode;      ///< 0 random, 1 original (grey, the default), 2 custom, else none.
+    std::int32_t pitsColor;          ///< Custom colour, 0x00BBGGRR (higher bits are dropped); default 0x969696.
+};
+static_assert(sizeof(AgingSettings) == 100);
+
+/// Settings of the Bump Map effect (EffectId 9).
+struct BumpMapSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t lightAngle;   ///< 0 to 360 degrees; default 135.
+    std::int32_t elevation;    ///< 0 to 90 degrees; default 45.
+    std::int32_t depth;        ///< 1 to 65; default 3.
+    std::int32_t ambient;      ///< 0 to 255; default 0.
+    std::int32_t xOffset;      ///< -(w - 1) to w - 1 pixels for a source video of width w; default 0.
+    std::int32_t yOffset;      ///< -(h - 1) to h - 1 pixels for a source video of height h; default 0.
+    std::int32_t invert;       ///< 0 or 1; default 0.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(BumpMapSettings) == 52);
+
+/// Settings of the Dizzy effect (EffectId 10).
+struct DizzySettings {
+    std::int32_t enabled;        ///< 0 or 1; default 1.
+    std::int32_t zoomLevel;      ///< 0 to 1000; default 10.
+    std::int32_t rotationSpeed;  ///< 0 to 1000; default 20.
+    std::int32_t areaEnabled;    ///< 0 or 1; default 0.
+    std::int32_t left;           ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(DizzySettings) == 32);
+
 /// Settings of the Fire effect (EffectId 11).
 struct FireSettings {
     std::int32_t enabled;              ///< 0 or 1; default 1.
@@ -149,6 +232,20 @@ struct FireSettings {
 };
 static_assert(sizeof(FireSettings) == 40);
 
+/// Settings of the Glass Tile effect (EffectId 12).
+struct GlassTileSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t tileWidth;    ///< 2 to 50 pixels; default 20.
+    std::int32_t tileHeight;   ///< 2 to 50 pixels; default 20.
+    std::int32_t refraction;   ///< 2 to 10; default 2.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(GlassTileSettings) == 36);
+
 /// Settings of the Hologram effect (EffectId 13).
 struct HologramSettings {
     std::int32_t enabled;              ///< 0 or 1; default 1.
@@ -161,6 +258,19 @@ struct HologramSettings {
 };
 static_assert(sizeof(HologramSettings) == 28);
 
+/// Settings of the Lens effect (EffectId 14).
+struct LensSettings {
+    std::int32_t enabled;           ///< 0 or 1; default 1.
+    std::int32_t refraction;        ///< 10 to 160; default 20.
+    std::int32_t keepSurroundings;  ///< 0 or 1; default 1.
+    std::int32_t areaEnabled;       ///< 0 or 1; default 0.
+    std::int32_t left;              ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(LensSettings) == 32);
+
 /// Settings of the Lightning effect (EffectId 15).
 struct LightningSettings {
     std::int32_t enabled;              ///< 0 or 1; default 1.
@@ -169,6 +279,19 @@ struct LightningSettings {
     std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
 };
 static_assert(sizeof(LightningSettings) == 16);
+
+/// Settings of the Maze effect (EffectId 16).
+struct MazeSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t divisions;    ///< 0 to 64; default 8.
+    std::int32_t breakKind;    ///< 0 from the centre (the default), 1 distorted; any other counts as 1.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(MazeSettings) == 32);
 
 /// Settings of the Motion Blur effect (EffectId 17).
 struct MotionBlurSettings {
@@ -202,12 +325,39 @@ struct MotionMosaicSettings {
 };
 static_assert(sizeof(MotionMosaicSettings) == 20);
 
+/// Settings of the Motion Scan effect (EffectId 20).
+struct MotionScanSettings {
+    std::int32_t enabled;        ///< 0 or 1; default 1.
+    std::int32_t showScanLine;   ///< 0 or 1; default 1.
+    std::int32_t lineIncrement;  ///< 1 to h - 1 lines for a source video of height h; default 1.
+    std::int32_t areaEnabled;    ///< 0 or 1; default 0.
+    std::int32_t left;           ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(MotionScanSettings) == 32);
+
 /// Settings of the Particles effect (EffectId 21).
 struct ParticlesSettings {
     std::int32_t enabled;  ///< 0 or 1; default 1.
     std::int32_t value;    ///< Distortion, 1 to 6; default 4.
 };
 static_assert(sizeof(ParticlesSettings) == 8);
+
+/// Settings of the Rain effect (EffectId 22).
+struct RainSettings {
+    std::int32_t enabled;          ///< 0 or 1; default 1.
+    std::int32_t customRainDrops;  ///< 0 or 1; default 0.
+    std::int32_t waveSpeed;        ///< 1 to 10; default 2.
+    std::int32_t density;          ///< 1 to 100; default 8.
+    std::int32_t areaEnabled;      ///< 0 or 1; default 0.
+    std::int32_t left;             ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(RainSettings) == 36);
 
 /// Settings of the Streak effect (EffectId 23).
 struct StreakSettings {
@@ -224,6 +374,33 @@ struct WaveSettings {
 };
 static_assert(sizeof(WaveSettings) == 12);
 
+/// Settings of the Emboss effect (EffectId 25).
+struct EmbossSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t lightAngle;   ///< 0 to 360 degrees; default 180.
+    std::int32_t elevation;    ///< 0 to 180 degrees; default 90.
+    std::int32_t depth;        ///< 1 to 100; default 50.
+    std::int32_t emboss;       ///< 1 emboss (the default), 0 bump map; any other counts as 1.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(EmbossSettings) == 40);
+
+/// Settings of the Mosaic effect (EffectId 27).
+struct MosaicSettings {
+    std::int32_t enabled;      ///< 0 or 1; default 1.
+    std::int32_t mosaicSize;   ///< 1 to 64 pixels; default 1.
+    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
+    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
+    std::int32_t top;
+    std::int32_t right;
+    std::int32_t bottom;
+};
+static_assert(sizeof(MosaicSettings) == 28);
+
 /// Settings of the Unsharp Mask effect (EffectId 28).
 struct UnsharpMaskSettings {
     std::int32_t enabled;    ///< 0 or 1; default 1.
@@ -233,13 +410,13 @@ struct UnsharpMaskSettings {
 };
 static_assert(sizeof(UnsharpMaskSettings) == 16);
 
-/// Settings of the Video Rotation effect (EffectId 29).
+/// Settings of the Video Rotation effect (EffectId 29). An angle that is no choice is set to 0 as soon as the dialog
+/// opens, even if it is then cancelled.
 struct VideoRotationSettings {
     std::int32_t enabled;  ///< 0 or 1; default 1.
     std::int32_t reverse;  ///< 0 or 1; default 0.
     std::int32_t flip;     ///< 0 or 1; default 0.
-    std::int32_t
-        angle;  ///< 0, 90, 180 or 270 degrees; default 0. Any other is set to 0 as soon as the dialog opens, even if it is then cancelled.
+    std::int32_t angle;    ///< 0, 90, 180 or 270 degrees; default 0.
 };
 static_assert(sizeof(VideoRotationSettings) == 16);
 
