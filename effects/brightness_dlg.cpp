@@ -1,7 +1,6 @@
 // Brightness: the brightness of what moves.
 #include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
-#include "skin/numbers.h"
 
 namespace {
 
@@ -38,7 +37,7 @@ private:
         m_filter->put_Enable(AutomationBool(m_enable));
         m_filter->put_Threshold(m_threshold.Value());
         // The push subtracts before truncating, OK and the number after: 999.5 sends 0 and saves -1. Hosts rely on both.
-        m_filter->put_Brightness(TruncateToInt(m_brightness.Position() - 1000.0));
+        m_filter->put_Brightness(m_brightness.Sent());
         m_filter->put_FirstFrameReference(AutomationBool(m_firstFrame));
     }
 

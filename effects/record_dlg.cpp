@@ -20,7 +20,8 @@ bool CRecordDlg::AddSlider(CValueSlider& slider, const SliderSetup& setup) {
                 .max = setup.max,
                 .offset = setup.offset,
                 .value = *setup.field,
-                .help = setup.help});
+                .help = setup.help,
+                .number = setup.number});
 }
 
 bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup) {
@@ -29,6 +30,13 @@ bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup) {
          [&box](int value) { box.SetChecked(value != 0); }, [&box](bool enable) { box.SetEnabled(enable); }});
     box.SetChecked(*setup.field != 0);
     return AddItem(box, setup.text, setup.id, setup.help);
+}
+
+bool CRecordDlg::AddRadioGroup(CRadioGroup& group, const RadioSetup& setup) {
+    m_bindings.push_back(
+        {setup.field, setup.standard, [&group, field = setup.field] { return group.Value().value_or(*field); },
+         [&group](int value) { group.SetValue(value); }, [&group](bool enable) { group.SetEnabled(enable); }});
+    return group.Create(*this, setup.choices, setup.value);
 }
 
 bool CRecordDlg::AddNumberEdit(CNumberEdit& edit, UINT id, std::int32_t& field, int standard, LPCWSTR help) {

@@ -9,6 +9,7 @@
 
 #include "dialogs/base/effect_settings_dlg.h"
 #include "effects/number_edit.h"
+#include "effects/radio_group.h"
 #include "effects/value_slider.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_static.h"
@@ -27,6 +28,7 @@ protected:
         std::int32_t* field;
         int standard;  ///< What "Set as default" sets.
         LPCWSTR help;
+        CValueSlider::Number number = CValueSlider::Number::Saved;
     };
     struct CheckBoxSetup {
         UINT id;
@@ -36,6 +38,13 @@ protected:
         LPCWSTR help;
     };
 
+    struct RadioSetup {
+        std::int32_t* field;
+        int value;  ///< What is selected first; for a value that is no choice nothing is, and the field stays.
+        int standard;
+        std::vector<CRadioGroup::Choice> choices;
+    };
+
     using CEffectSettingsDlg::CEffectSettingsDlg;
 
     // Each creates a control with the field's value and keeps the two together.
@@ -43,6 +52,7 @@ protected:
     bool AddEnable(std::int32_t& field);
     bool AddSlider(CValueSlider& slider, const SliderSetup& setup);
     bool AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup);
+    bool AddRadioGroup(CRadioGroup& group, const RadioSetup& setup);
     bool AddNumberEdit(CNumberEdit& edit, UINT id, std::int32_t& field, int standard, LPCWSTR help);
 
     /// Every control but "Enable" follows "Enable".

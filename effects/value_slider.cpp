@@ -1,9 +1,12 @@
 #include "effects/value_slider.h"
 
+#include <cmath>
+
 #include "skin/numbers.h"
 
 bool CValueSlider::Create(CSkinDialog& dialog, const Setup& setup) {
     m_offset = setup.offset;
+    m_shown = setup.number;
     if (setup.label && !dialog.AddLabel(m_label, setup.label)) return false;
     if (!CSkinSlider::Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &dialog, setup.id)) return false;
     dialog.AddControl(*this, setup.help);
@@ -21,7 +24,9 @@ void CValueSlider::Place(const Places& places) {
     m_number.SetRect(places.number);
 }
 
-int CValueSlider::Value() const { return TruncateToInt(Position()) - m_offset; }
+int CValueSlider::Value() const { return TruncateToInt(std::trunc(Position()) - m_offset); }
+
+int CValueSlider::Sent() const { return TruncateToInt(Position() - m_offset); }
 
 void CValueSlider::SetValue(int value) {
     SetPosition(static_cast<double>(value) + m_offset);

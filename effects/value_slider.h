@@ -7,6 +7,9 @@
 
 class CValueSlider : public CSkinSlider {
 public:
+    /// Which of the two numbers that a position between two values stands for is shown.
+    enum class Number { Saved, Sent };
+
     struct Setup {
         UINT id;
         LPCWSTR label = nullptr;  ///< Null where something else stands in the label's place.
@@ -15,6 +18,7 @@ public:
         int offset = 0;  ///< The slider holds value + offset.
         int value;
         LPCWSTR help;
+        Number number = Number::Saved;
     };
     struct Places {
         CRect label{0, 0, 0, 0};
@@ -25,16 +29,21 @@ public:
     /// Shows the value as given, even where the slider clamps it.
     bool Create(CSkinDialog& dialog, const Setup& setup);
     void Place(const Places& places);
+    /// What OK saves: the position truncated, then less the offset.
     int Value() const;
+    /// What a push of some effects sends: the position less the offset, then truncated. Between two values below 0 it
+    /// is the upper one, and Value() the lower.
+    int Sent() const;
     void SetValue(int value);
 
 protected:
-    void OnPositionChanged() override { ShowNumber(Value()); }
+    void OnPositionChanged() override { ShowNumber(m_shown == Number::Saved ? Value() : Sent()); }
 
 private:
     void ShowNumber(int number);
 
     int m_offset = 0;
+    Number m_shown = Number::Saved;
     CSkinStatic m_label;
     CSkinStatic m_number;
 };

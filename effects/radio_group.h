@@ -1,0 +1,44 @@
+// Radio buttons of which one is selected; each stands for a number.
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <vector>
+
+#include "skin/skin_dialog.h"
+#include "skin/skin_radio_button.h"
+
+class CRadioGroup {
+public:
+    struct Choice {
+        UINT id;
+        int value;
+        LPCWSTR text;
+        LPCWSTR help;
+    };
+
+    bool Create(CSkinDialog& dialog, const std::vector<Choice>& choices, int value);
+    /// Nothing where none is selected: the user can't clear a selection, but a value may be no choice.
+    std::optional<int> Value() const;
+    /// Selects the choice of a value; none for a value that is no choice.
+    void SetValue(int value);
+    void SetEnabled(bool enabled);
+    /// Places the buttons side by side, in the order of the choices.
+    void Place(CPoint at, const std::vector<int>& widths);
+
+private:
+    class CButton : public CSkinRadioButton {
+    public:
+        CButton(CRadioGroup& group, int value) : m_group(group), m_value(value) {}
+        int Value() const { return m_value; }
+
+    protected:
+        void OnClick() override { m_group.SetValue(m_value); }
+
+    private:
+        CRadioGroup& m_group;
+        const int m_value;
+    };
+
+    std::deque<CButton> m_buttons;  // Buttons stay where they are: the dialog's list points at them.
+};
