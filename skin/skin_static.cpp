@@ -28,10 +28,13 @@ void CSkinStatic::Paint(HDC dc, CSize size) {
                            (static_cast<int>(size.cy) - height) / 2, width, height);
     }
     if (Text().IsEmpty()) return;
+    DrawTextIn(graphics, Text(), DrawnFont(), all, m_leftAligned ? TextLayout::LeftMiddle : TextLayout::Centred,
+               OpaqueColor(m_textColor));
+}
+
+const Gdiplus::Font& CSkinStatic::DrawnFont() const {
     LOGFONTW description{};
     ::GetObjectW(Font(), sizeof(description), &description);
     const auto style = description.lfWeight >= 800 ? Gdiplus::FontStyleBold : Gdiplus::FontStyleRegular;
-    DrawTextIn(graphics, Text(),
-               TextFont(description.lfFaceName, static_cast<float>(std::abs(description.lfHeight)), style), all,
-               m_leftAligned ? TextLayout::LeftMiddle : TextLayout::Centred, OpaqueColor(m_textColor));
+    return TextFont(description.lfFaceName, static_cast<float>(std::abs(description.lfHeight)), style);
 }
