@@ -1,17 +1,6 @@
 #include "effects/effect_dialogs.h"
 
-#include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
-
-namespace {
-
-/// An effect whose own controls do not exist yet: frame, preview and filter link only.
-class CBareEffectDlg : public CEffectDlg<IUnknown, const EffectSettingsRecord> {
-public:
-    explicit CBareEffectDlg(EffectId id) : CEffectDlg(id) {}
-};
-
-}  // namespace
 
 std::unique_ptr<CDialog> MakeEffectDialog(EffectId id) {
     switch (id) {
@@ -23,37 +12,58 @@ std::unique_ptr<CDialog> MakeEffectDialog(EffectId id) {
             return MakeAutoLevelDlg();
         case EffectId::Brightness:
             return MakeBrightnessDlg();
+        case EffectId::Color:
+            return MakeColorDlg();
         case EffectId::Deblocking:
             return MakeDeblockingDlg();
         case EffectId::EdgeEnhance:
             return MakeEdgeEnhanceDlg();
+        case EffectId::Aging:
+            return MakeAgingDlg();
+        case EffectId::BumpMap:
+            return MakeBumpMapDlg();
+        case EffectId::Dizzy:
+            return MakeDizzyDlg();
         case EffectId::Fire:
             return MakeFireDlg();
+        case EffectId::GlassTile:
+            return MakeGlassTileDlg();
         case EffectId::Hologram:
             return MakeHologramDlg();
+        case EffectId::Lens:
+            return MakeLensDlg();
         case EffectId::Lightning:
             return MakeLightningDlg();
+        case EffectId::Maze:
+            return MakeMazeDlg();
         case EffectId::MotionBlur:
             return MakeMotionBlurDlg();
         case EffectId::MotionEmboss:
             return MakeMotionEmbossDlg();
         case EffectId::MotionMosaic:
             return MakeMotionMosaicDlg();
+        case EffectId::MotionScan:
+            return MakeMotionScanDlg();
         case EffectId::Particles:
             return MakeParticlesDlg();
+        case EffectId::Rain:
+            return MakeRainDlg();
         case EffectId::Streak:
             return MakeStreakDlg();
         case EffectId::Wave:
             return MakeWaveDlg();
+        case EffectId::Emboss:
+            return MakeEmbossDlg();
         case EffectId::GammaCorrection:
             return MakeGammaCorrectionDlg();
+        case EffectId::Mosaic:
+            return MakeMosaicDlg();
         case EffectId::UnsharpMask:
             return MakeUnsharpMaskDlg();
         case EffectId::VideoRotation:
             return MakeVideoRotationDlg();
         case EffectId::AudioChorus:
             return MakeAudioChorusDlg();
-        default:
-            return std::make_unique<CBareEffectDlg>(id);
     }
+    return nullptr;
 }

@@ -1,0 +1,116 @@
+// A dialog of an effect that can be limited to a rectangle of the video.
+#pragma once
+
+#include "effects/area_controls.h"
+#include "effects/effect_area.h"
+#include "effects/effect_dlg.h"
+#include "skin/skin_message_box.h"
+
+/// What a filter with one setter per edge gets for an area that is not valid.
+enum class InvalidArea {
+    ReplaceThenConvert,  ///< The default area, converted to frame pixels like any other.
+    SendAsIs,            ///< The default area's numbers as they are, and left first.
+};
+
+/// When such a filter gets the area's switch.
+enum class AreaSwitch { BeforeEdges, AfterEdges, BeforeValidEdgesOnly };
+
+template <typename Filter, typename Settings>
+class CAreaDlg : public CEffectDlg<Filter, Settings> {
+protected:
+    /// The record's area is mended here, before anything is shown. Sliders have the preview panel's usual id.
+    explicit CAreaDlg(EffectId id)
+        : CEffectDlg<Filter, Settings>(id, {.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {
+        auto& settings = *this->m_settings;
+        StoreEdges(ClampEffectArea({settings.left, settings.top, settings.right, settings.bottom}, VideoSize()));
+    }
+
+    bool AddArea(const CAreaControls::Texts& texts = {}) {
+        const auto& settings = *this->m_settings;
+        return m_area.Create(
+            *this, settings.areaEnabled != 0, {settings.left, settings.top, settings.right, settings.bottom}, texts);
+    }
+
+    /// Places the area below the other controls, and the help panel below it.
+    void PlaceArea(int y) {
+        m_area.Place({20, y}, this->ClientRect().Width() - 40);
+        this->m_helpRect = this->HelpRectBelow(y + CAreaControls::kHeight + 10);
+    }
+
+    CValueSlider::Places Row(int y) const { return CRecordDlg::Row(y, 155, 180, 50); }
+
+    void SyncControls() override {
+        CEffectDlg<Filter, Settings>::SyncControls();
+        m_area.SetEnabled(this->m_enable.IsChecked());
+    }
+
+    void OnClicked(UINT id) override {
+        // Here the edges follow their own switch alone, on purpose.
+        if (id == CAreaControls::kSwitchId) m_area.SetEdgesEnabled(m_area.IsOn());
+        CEffectDlg<Filter, Settings>::OnClicked(id);
+    }
+
+    bool Validate() override {
+        if (!m_area.IsOn() || IsAreaValid()) return true;
+        CSkinMessageBox(L"Error!", L"Invalid effect area, please input and try again!").DoModal();
+        return false;
+    }
+
+    void SaveSettings() override {
+        CEffectDlg<Filter, Settings>::SaveSettings();
+        this->m_settings->areaEnabled = m_area.IsOn();
+        StoreEdges(m_area.Typed());
+    }
+
+    void ResetToDefaults() override {
+        m_area.Set(false, kDefaultEffectArea);
+        CEffectDlg<Filter, Settings>::ResetToDefaults();
+    }
+
+    /// The end of a push to a filter that takes the area as a structure.
+    AreaParams AreaStructure() const {
+        const RECT edges = ConvertedArea();
+        return {edges.left, edges.top, edges.right, edges.bottom, m_area.IsOn(), {0, 0, 1, 1, 0}};
+    }
+
+    /// The same for a filter with a setter per edge.
+    void PutArea(InvalidArea invalid, AreaSwitch place) {
+        auto& filter = *this->m_filter.Get();
+        const bool valid = IsAreaValid();
+        const VARIANT_BOOL on = m_area.IsOn() ? VARIANT_TRUE : VARIANT_FALSE;
+        if (place == AreaSwitch::BeforeEdges || (place == AreaSwitch::BeforeValidEdgesOnly && valid)) {
+            filter.put_AreaEnable(on);
+        }
+        if (valid || invalid == InvalidArea::ReplaceThenConvert) {
+            const RECT edges = ConvertedArea();
+            filter.put_AreaRight(edges.right);
+            filter.put_AreaBottom(edges.bottom);
+            filter.put_AreaLeft(edges.left);
+            filter.put_AreaTop(edges.top);
+        } else {
+            filter.put_AreaLeft(kDefaultEffectArea.left);
+            filter.put_AreaTop(kDefaultEffectArea.top);
+            filter.put_AreaRight(kDefaultEffectArea.right);
+            filter.put_AreaBottom(kDefaultEffectArea.bottom);
+        }
+        if (place == AreaSwitch::AfterEdges) filter.put_AreaEnable(on);
+    }
+
+    CAreaControls m_area;
+
+private:
+    static SIZE VideoSize() { return {g_VideoWidth, g_VideoHeight}; }
+    bool IsAreaValid() const { return ValidateEffectArea(m_area.Typed(), VideoSize()); }
+
+    RECT ConvertedArea() const {
+        return ScaleEffectArea(
+            IsAreaValid() ? m_area.Typed() : kDefaultEffectArea, VideoSize(), {g_FrameWidth, g_FrameHeight});
+    }
+
+    void StoreEdges(const RECT& area) {
+        this->m_settings->left = area.left;
+        this->m_settings->top = area.top;
+        this->m_settings->right = area.right;
+        this->m_settings->bottom = area.bottom;
+    }
+};
