@@ -187,5 +187,149 @@ public:
     }
 };
 
+/// What the effects with an area and a setter per edge have in common.
+template <typename Recorder>
+class AreaRecorder : public Recorder {
+public:
+    using Recorder::Recorder;
+    RECORD_SWITCH(put_Enable)
+    RECORD_NUMBER(put_AreaLeft)
+    RECORD_NUMBER(put_AreaTop)
+    RECORD_NUMBER(put_AreaRight)
+    RECORD_NUMBER(put_AreaBottom)
+    RECORD_SWITCH(put_AreaEnable)
+};
+
+/// The same for those that take the area as a structure.
+template <typename Recorder>
+class AreaParamsRecorder : public Recorder {
+public:
+    using Recorder::Recorder;
+    HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) override {
+        const auto& rest = params.reserved;
+        return this->Record("SetAreaParams", params.left, params.top, params.right, params.bottom, params.enabled,
+                            rest[0], rest[1], rest[2], rest[3], rest[4]);
+    }
+};
+
+template <typename Recorder>
+class ColorRecorder : public AreaParamsRecorder<Recorder> {
+public:
+    using AreaParamsRecorder<Recorder>::AreaParamsRecorder;
+    HRESULT STDMETHODCALLTYPE SetColorParams(ColorParams params) override {
+        const auto& rest = params.reserved;
+        return this->Record("SetColorParams", params.enabled, params.brightness, params.contrast, params.hue,
+                            params.saturation, params.invert, rest[0], rest[1], rest[2], rest[3], rest[4], rest[5]);
+    }
+};
+
+template <typename Recorder>
+class AgingRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_Channel)
+    RECORD_SWITCH(put_OldColor)
+    RECORD_SWITCH(put_Scratches)
+    RECORD_NUMBER(put_MaxScratches)
+    RECORD_NUMBER(put_ScratchHeight)
+    RECORD_SWITCH(put_Dust)
+    RECORD_SWITCH(put_RandomDust)
+    RECORD_SWITCH(put_DustRandomDensity)
+    RECORD_NUMBER(put_DustDensity)
+    RECORD_SWITCH(put_AlwaysAddDust)
+    RECORD_NUMBER(put_DustColor)
+    RECORD_SWITCH(put_Pits)
+    RECORD_SWITCH(put_RandomPits)
+    RECORD_SWITCH(put_PitsRandomDensity)
+    RECORD_NUMBER(put_PitsDensity)
+    RECORD_SWITCH(put_AlwaysAddPits)
+    RECORD_NUMBER(put_DustColorMode)
+    RECORD_NUMBER(put_PitsColorMode)
+    RECORD_NUMBER(put_PitsColor)
+};
+
+template <typename Recorder>
+class BumpMapRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_LightAngle)
+    RECORD_NUMBER(put_Elevation)
+    RECORD_NUMBER(put_Depth)
+    RECORD_NUMBER(put_XOffset)
+    RECORD_NUMBER(put_YOffset)
+    RECORD_NUMBER(put_Ambient)
+    RECORD_SWITCH(put_Invert)
+};
+
+template <typename Recorder>
+class DizzyRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_ZoomLevel)
+    RECORD_NUMBER(put_RotationSpeed)
+};
+
+template <typename Recorder>
+class GlassTileRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_TileWidth)
+    RECORD_NUMBER(put_TileHeight)
+    RECORD_NUMBER(put_Refraction)
+};
+
+template <typename Recorder>
+class LensRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_Refraction)
+    RECORD_SWITCH(put_KeepSurroundings)
+};
+
+template <typename Recorder>
+class MazeRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_Divisions)
+    RECORD_NUMBER(put_BreakKind)
+};
+
+template <typename Recorder>
+class MotionScanRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_LineIncrement)
+    RECORD_SWITCH(put_ShowScanLine)
+};
+
+template <typename Recorder>
+class RainRecorder : public AreaRecorder<Recorder> {
+public:
+    using AreaRecorder<Recorder>::AreaRecorder;
+    RECORD_NUMBER(put_WaveSpeed)
+    RECORD_NUMBER(put_Density)
+    RECORD_SWITCH(put_CustomRainDrops)
+};
+
+template <typename Recorder>
+class EmbossRecorder : public AreaParamsRecorder<Recorder> {
+public:
+    using AreaParamsRecorder<Recorder>::AreaParamsRecorder;
+    HRESULT STDMETHODCALLTYPE SetEmbossParams(EmbossParams params) override {
+        return this->Record("SetEmbossParams", params.lightAngle, params.elevation, params.depth, params.emboss,
+                            params.enabled, params.defaultLightAngle, params.defaultElevation, params.defaultDepth,
+                            params.defaultEmboss, params.defaultEnabled);
+    }
+};
+
+template <typename Recorder>
+class MosaicRecorder : public AreaParamsRecorder<Recorder> {
+public:
+    using AreaParamsRecorder<Recorder>::AreaParamsRecorder;
+    HRESULT STDMETHODCALLTYPE SetMosaicParams(MosaicParams params) override {
+        return this->Record("SetMosaicParams", params.mosaicSize, params.enabled, params.reserved1, params.reserved2);
+    }
+};
+
 #undef RECORD_SWITCH
 #undef RECORD_NUMBER

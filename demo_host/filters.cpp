@@ -77,21 +77,6 @@ private:
     std::array<std::uint8_t, 256> m_table{};
 };
 
-/// For effects without an interface of their own.
-class CPlainPassThrough : public CComObject<IDemoProcessor> {
-public:
-    explicit CPlainPassThrough(const Effect& effect) : m_effect(effect) {}
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        return Answer(object, iid == IID_IUnknown || iid == IID_IDemoProcessor ? this : nullptr);
-    }
-    const Effect& EffectOf() const override { return m_effect; }
-    void Process(Frame&) override {}
-
-private:
-    const Effect& m_effect;
-};
-
 }  // namespace
 
 ComPtr<IDemoProcessor> MakeProcessor(const Effect& effect) {
@@ -149,7 +134,30 @@ ComPtr<IDemoProcessor> MakeProcessor(const Effect& effect) {
         case EffectId::AudioChorus:
             return Adopt<IDemoProcessor>(
                 new AudioChorusRecorder<CPassThrough<IEffectAudioChorus, IID_IEffectAudioChorus>>(effect));
-        default:
-            return Adopt<IDemoProcessor>(new CPlainPassThrough(effect));
+        case EffectId::Color:
+            return Adopt<IDemoProcessor>(new ColorRecorder<CPassThrough<IEffectColor, IID_IEffectColor>>(effect));
+        case EffectId::Aging:
+            return Adopt<IDemoProcessor>(new AgingRecorder<CPassThrough<IEffectAging, IID_IEffectAging>>(effect));
+        case EffectId::BumpMap:
+            return Adopt<IDemoProcessor>(new BumpMapRecorder<CPassThrough<IEffectBumpMap, IID_IEffectBumpMap>>(effect));
+        case EffectId::Dizzy:
+            return Adopt<IDemoProcessor>(new DizzyRecorder<CPassThrough<IEffectDizzy, IID_IEffectDizzy>>(effect));
+        case EffectId::GlassTile:
+            return Adopt<IDemoProcessor>(
+                new GlassTileRecorder<CPassThrough<IEffectGlassTile, IID_IEffectGlassTile>>(effect));
+        case EffectId::Lens:
+            return Adopt<IDemoProcessor>(new LensRecorder<CPassThrough<IEffectLens, IID_IEffectLens>>(effect));
+        case EffectId::Maze:
+            return Adopt<IDemoProcessor>(new MazeRecorder<CPassThrough<IEffectMaze, IID_IEffectMaze>>(effect));
+        case EffectId::MotionScan:
+            return Adopt<IDemoProcessor>(
+                new MotionScanRecorder<CPassThrough<IEffectMotionScan, IID_IEffectMotionScan>>(effect));
+        case EffectId::Rain:
+            return Adopt<IDemoProcessor>(new RainRecorder<CPassThrough<IEffectRain, IID_IEffectRain>>(effect));
+        case EffectId::Emboss:
+            return Adopt<IDemoProcessor>(new EmbossRecorder<CPassThrough<IEffectEmboss, IID_IEffectEmboss>>(effect));
+        case EffectId::Mosaic:
+            return Adopt<IDemoProcessor>(new MosaicRecorder<CPassThrough<IEffectMosaic, IID_IEffectMosaic>>(effect));
     }
+    return nullptr;
 }

@@ -30,8 +30,6 @@ constexpr int kExitLeak = 3;
 constexpr int kFramesBeforePicture = 25;
 constexpr UINT kPictureTimerMs = 200;
 constexpr LPARAM kOnEnable = MAKELPARAM(40, 305);
-// Records of effects that the demo has no fields for: larger than any of them.
-constexpr std::size_t kLargestRecord = 32;
 
 constexpr char kHelp[] =
     "usage: demo [EFFECT] [options]\n"
@@ -183,7 +181,6 @@ int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
 
     std::vector<std::int32_t> record;
     for (const RecordField& field : effect.fields) record.push_back(field.initial);
-    if (record.empty()) record.resize(kLargestRecord);
     PrintRecord("before", effect, record);
     IMediaHost* host = player.Get();
     const SIZE video = player->VideoSize();

@@ -1,6 +1,6 @@
 #include "support/recording_host.h"
 
-#include "support/recording_filters.h"
+#include "demo_host/filter_recorders.h"
 
 class RecordingHost::List : public Counted<IProcessorList> {
 public:
@@ -107,9 +107,33 @@ FilterOwner MakeFilterFor(EffectId effect, Trace& trace, const bool& hasInterfac
         case EffectId::AudioChorus:
             return MakeFilter<AudioChorusRecorder<RecordingFilter<IEffectAudioChorus, IID_IEffectAudioChorus>>>(
                 trace, hasInterface);
-        default:
-            return MakeFilter<RecordingPlain>(trace, hasInterface);
+        case EffectId::Color:
+            return MakeFilter<ColorRecorder<RecordingFilter<IEffectColor, IID_IEffectColor>>>(trace, hasInterface);
+        case EffectId::Aging:
+            return MakeFilter<AgingRecorder<RecordingFilter<IEffectAging, IID_IEffectAging>>>(trace, hasInterface);
+        case EffectId::BumpMap:
+            return MakeFilter<BumpMapRecorder<RecordingFilter<IEffectBumpMap, IID_IEffectBumpMap>>>(
+                trace, hasInterface);
+        case EffectId::Dizzy:
+            return MakeFilter<DizzyRecorder<RecordingFilter<IEffectDizzy, IID_IEffectDizzy>>>(trace, hasInterface);
+        case EffectId::GlassTile:
+            return MakeFilter<GlassTileRecorder<RecordingFilter<IEffectGlassTile, IID_IEffectGlassTile>>>(
+                trace, hasInterface);
+        case EffectId::Lens:
+            return MakeFilter<LensRecorder<RecordingFilter<IEffectLens, IID_IEffectLens>>>(trace, hasInterface);
+        case EffectId::Maze:
+            return MakeFilter<MazeRecorder<RecordingFilter<IEffectMaze, IID_IEffectMaze>>>(trace, hasInterface);
+        case EffectId::MotionScan:
+            return MakeFilter<MotionScanRecorder<RecordingFilter<IEffectMotionScan, IID_IEffectMotionScan>>>(
+                trace, hasInterface);
+        case EffectId::Rain:
+            return MakeFilter<RainRecorder<RecordingFilter<IEffectRain, IID_IEffectRain>>>(trace, hasInterface);
+        case EffectId::Emboss:
+            return MakeFilter<EmbossRecorder<RecordingFilter<IEffectEmboss, IID_IEffectEmboss>>>(trace, hasInterface);
+        case EffectId::Mosaic:
+            return MakeFilter<MosaicRecorder<RecordingFilter<IEffectMosaic, IID_IEffectMosaic>>>(trace, hasInterface);
     }
+    return {nullptr, nullptr};
 }
 
 /// References beyond the owner's.
