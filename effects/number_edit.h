@@ -4,10 +4,12 @@
 #include "skin/skin_dialog.h"
 #include "skin/skin_edit.h"
 
+/// The leading digits, after blanks and a sign; 0 without any, and the nearest int of what does not fit.
+int ParseNumber(LPCWSTR text);
+
 class CNumberEdit : public CSkinEdit {
 public:
     bool Create(CSkinDialog& dialog, UINT id, int value, LPCWSTR help);
-    /// The leading digits, after blanks and a sign; 0 without any, and the nearest int of what does not fit.
-    int Value() const;
+    int Value() const { return ParseNumber(Text()); }
     void SetValue(int value);
 };
