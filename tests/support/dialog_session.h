@@ -1,0 +1,43 @@
+// One call of ShowSettingsDialog for a record, worked by a script, on a host that writes everything down.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/dialog_driver.h"
+#include "support/recording_host.h"
+
+struct Session {
+    Session(EffectId effect, std::vector<std::int32_t> initial, SIZE videoSize = {720, 480},
+            SIZE frameSize = {360, 240})
+        : id(effect), record(std::move(initial)), video(videoSize), frame(frameSize), host(effect) {}
+
+    void Run(const std::function<void(DialogDriver&)>& script) {
+        IMediaHost* pointer = &host;
+        RunDialog(
+            [&] { result = ShowSettingsDialog(&pointer, id, video.cx, video.cy, frame.cx, frame.cy, record.data()); },
+            script);
+        EXPECT_EQ(host.OpenReferences(), 0U);
+    }
+    /// The setters that were called since the last time, in one line.
+    std::string Pushes() {
+        std::string all;
+        for (const std::string& line : host.Calls().Take()) {
+            if (line.starts_with("filter.")) all += (all.empty() ? "" : " ") + line.substr(7);
+        }
+        return all;
+    }
+
+    EffectId id;
+    std::vector<std::int32_t> record;
+    SIZE video;
+    SIZE frame;
+    RecordingHost host;
+    std::int32_t result = -99;
+};
+
+inline void ClickDefault(DialogDriver& dialog) { dialog.Click({60, dialog.ClientRect().bottom - 19}); }
