@@ -192,19 +192,19 @@ private:
     // Two columns of two groups each: the colours and the area, the scratches; dust and pits.
     void LayoutControls() override {
         CAreaDlg::LayoutControls();
-        PlaceGroup(m_oldColor, m_oldColorLine, {kLeft, 320}, 122);
-        m_channel.Place({kLeft, 343}, {42, 78, 78, 78, 89});
-        m_area.Place({kLeft, 371}, kColumnWidth);
+        PlaceGroup(m_oldColor, m_oldColorLine, {kLeft, 318}, 122);
+        m_channel.Place({kLeft, 340}, {38, 81, 81, 81, 84});
+        m_area.Place({kLeft, 365}, kColumnWidth);
 
-        PlaceGroup(m_scratches, m_scratchesLine, {kRight, 320}, 126);
-        CValueSlider::Places places = SliderRow(kRight, 371);
-        places.label = At(kRight, 347, kColumnWidth);  // Too long to stand beside its slider.
+        PlaceGroup(m_scratches, m_scratchesLine, {kRight, 318}, 126);
+        CValueSlider::Places places = SliderRow(kRight, 366);
+        places.label = At(kRight, 342, kColumnWidth);  // Too long to stand beside its slider.
         m_maxScratches.Place(places);
-        m_scratchHeight.Place(SliderRow(kRight, 399));
+        m_scratchHeight.Place(SliderRow(kRight, 394));
 
-        PlaceSpecks(m_dust, kLeft, 453);
-        PlaceSpecks(m_pits, kRight, 453);
-        m_helpRect = HelpRectBelow(558);
+        PlaceSpecks(m_dust, kLeft, 447);
+        PlaceSpecks(m_pits, kRight, 447);
+        m_helpRect = HelpRectBelow(560);
     }
 
     void PlaceSpecks(Specks& specks, int x, int y) {

@@ -17,19 +17,19 @@ struct Part {
 constexpr int kLeft = 20;
 constexpr int kRight = 415;
 constexpr POINT kEnable{40, 305};
-constexpr POINT kArea{kLeft + 20, 405};
-constexpr POINT kOldColor{kLeft + 20, 330};
-constexpr POINT kScratches{kRight + 20, 330};
+constexpr POINT kArea{kLeft + 20, 399};
+constexpr POINT kOldColor{kLeft + 20, 328};
+constexpr POINT kScratches{kRight + 20, 328};
 
 struct SpecksPoints {
     int x;
-    POINT On() const { return {x + 20, 463}; }
-    POINT Random() const { return {x + 20, 485}; }
-    POINT Density() const { return {x + 140, 485}; }
-    POINT Always() const { return {x + 265, 485}; }
-    POINT Color(int choice) const { return {x + 140 + 80 * choice, 527}; }
-    POINT SetColor() const { return {x + 150, 548}; }
-    POINT Swatch() const { return {x + 260, 548}; }
+    POINT On() const { return {x + 20, 457}; }
+    POINT Random() const { return {x + 20, 479}; }
+    POINT Density() const { return {x + 140, 479}; }
+    POINT Always() const { return {x + 265, 479}; }
+    POINT Color(int choice) const { return {x + 140 + 80 * choice, 521}; }
+    POINT SetColor() const { return {x + 150, 542}; }
+    POINT Swatch() const { return {x + 260, 542}; }
 };
 constexpr SpecksPoints kDust{kLeft};
 constexpr SpecksPoints kPits{kRight};
@@ -41,11 +41,11 @@ const std::vector<Part> kParts = {
     {'e', {}, 19},
     {'e', {}, 20},
     {'o', kOldColor},
-    {'c', {kLeft + 20, 353}},
-    {'c', {kLeft + 62, 353}},
-    {'c', {kLeft + 140, 353}},
-    {'c', {kLeft + 218, 353}},
-    {'c', {kLeft + 296, 353}},
+    {'c', {kLeft + 20, 350}},
+    {'c', {kLeft + 58, 350}},
+    {'c', {kLeft + 139, 350}},
+    {'c', {kLeft + 220, 350}},
+    {'c', {kLeft + 301, 350}},
     {'s', kScratches},
     {'m', {}, 11},
     {'h', {}, 29},
@@ -243,7 +243,7 @@ TEST(Aging, AnUnknownChoiceSelectsNoneAndIsKept) {
     EXPECT_EQ(session.record, unknown);
     Session chosen(EffectId::Aging, unknown);
     chosen.Run([&](DialogDriver& dialog) {
-        dialog.Click({kLeft + 296, 353});
+        dialog.Click({kLeft + 301, 350});
         dialog.Key(VK_RETURN);
     });
     unknown[7] = 4;

@@ -60,7 +60,7 @@ struct Member {
 
 const Member kMembers[] = {
     {EffectId::Color, 11, 2, 7, 483, kStructure},
-    {EffectId::Aging, 25, 1, 2, 405, kAsIs},
+    {EffectId::Aging, 25, 1, 2, 399, kAsIs},
     {EffectId::BumpMap, 13, 8, 9, 533, kAsIsSwitchLast},
     {EffectId::Dizzy, 8, 3, 4, 409, kReplaced},
     {EffectId::GlassTile, 9, 4, 5, 434, kAsIsSwitchOnlyIfValid},
