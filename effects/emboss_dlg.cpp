@@ -1,54 +1,28 @@
 // Emboss: whole frames are embossed or become a bump map.
 #include "effects/area_dlg.h"
 #include "effects/effect_makers.h"
-#include "effects/emboss_texts.h"
+#include "effects/embossing_dlg.h"
 
 namespace {
 
-class CEmbossDlg : public CAreaDlg<IEffectEmboss, EmbossSettings> {
+using CBaseDlg = CEmbossingDlg<CAreaDlg<IEffectEmboss, EmbossSettings>>;
+
+class CEmbossDlg : public CBaseDlg {
 public:
-    CEmbossDlg() : CAreaDlg(EffectId::Emboss) {}
+    CEmbossDlg() : CBaseDlg(EffectId::Emboss) {}
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_lightAngle,
-                         {.id = 11,
-                          .label = L"Light Angle(0-360):",
-                          .min = 0,
-                          .max = 360,
-                          .field = &m_settings->lightAngle,
-                          .standard = 180,
-                          .help = kLightAngleHelp}) &&
-               AddSlider(m_elevation,
-                         {.id = 12,
-                          .label = L"Elevation(0-180):",
-                          .min = 0,
-                          .max = 180,
-                          .field = &m_settings->elevation,
-                          .standard = 90,
-                          .help = kElevationHelp}) &&
-               AddSlider(m_depth, {.id = 13,
-                                   .label = L"Depth(1-100):",
-                                   .min = 1,
-                                   .max = 100,
-                                   .field = &m_settings->depth,
-                                   .standard = 50,
-                                   .help = kEmbossDepthHelp}) &&
-               AddRadioGroup(
-                   m_emboss, {.field = &m_settings->emboss,
-                              .value = m_settings->emboss != 0,
-                              .standard = 1,
-                              .choices = {{14, 1, L"Emboss", kEmbossHelp}, {15, 0, L"Bumpmap", kBumpMapHelp}}}) &&
+        return AddEnable(m_settings->enabled) && AddLightAndDepth(11, 50) && AddMode(14, m_settings->emboss, 1) &&
                AddArea();
     }
 
     void LayoutControls() override {
-        CAreaDlg::LayoutControls();
+        CBaseDlg::LayoutControls();
         m_lightAngle.Place(Row(320));
         m_elevation.Place(Row(345));
         m_depth.Place(Row(370));
-        m_emboss.Place({20, 396}, {130, 130});
+        m_mode.Place({20, 396}, {130, 130});
         PlaceArea(424);
     }
 
@@ -58,7 +32,7 @@ private:
             {.lightAngle = m_lightAngle.Value(),
              .elevation = m_elevation.Value(),
              .depth = m_depth.Value(),
-             .emboss = m_emboss.Value().value_or(1),
+             .emboss = m_mode.Value().value_or(1),
              .enabled = m_enable.IsChecked(),
              .defaultLightAngle = 180,
              .defaultElevation = 90,
@@ -67,11 +41,6 @@ private:
              .defaultEnabled = 1});
         m_filter->SetAreaParams(AreaStructure());
     }
-
-    CValueSlider m_lightAngle;
-    CValueSlider m_elevation;
-    CValueSlider m_depth;
-    CRadioGroup m_emboss;
 };
 
 }  // namespace

@@ -1,48 +1,24 @@
 // Motion Emboss: what moves is embossed, with or without a bump map.
 #include "effects/effect_makers.h"
-#include "effects/emboss_texts.h"
+#include "effects/embossing_dlg.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CMotionEmbossDlg : public CMotionDlg<IEffectMotionEmboss, MotionEmbossSettings> {
+using CBaseDlg = CEmbossingDlg<CMotionDlg<IEffectMotionEmboss, MotionEmbossSettings>>;
+
+class CMotionEmbossDlg : public CBaseDlg {
 public:
-    CMotionEmbossDlg() : CMotionDlg(EffectId::MotionEmboss) {}
+    CMotionEmbossDlg() : CBaseDlg(EffectId::MotionEmboss) {}
 
 private:
     bool CreateControls() override {
         return AddEnable(m_settings->enabled) && AddThreshold() && AddNoReference() && AddFirstFrame() &&
-               AddSlider(m_lightAngle,
-                         {.id = 15,
-                          .label = L"Light Angle(0-360):",
-                          .min = 0,
-                          .max = 360,
-                          .field = &m_settings->lightAngle,
-                          .standard = 180,
-                          .help = kLightAngleHelp}) &&
-               AddSlider(m_elevation,
-                         {.id = 16,
-                          .label = L"Elevation(0-180):",
-                          .min = 0,
-                          .max = 180,
-                          .field = &m_settings->elevation,
-                          .standard = 90,
-                          .help = kElevationHelp}) &&
-               AddSlider(m_depth, {.id = 17,
-                                   .label = L"Depth(1-100):",
-                                   .min = 1,
-                                   .max = 100,
-                                   .field = &m_settings->depth,
-                                   .standard = 10,
-                                   .help = kEmbossDepthHelp}) &&
-               AddRadioGroup(m_mode, {.field = &m_settings->bumpMap,
-                                      .value = m_settings->bumpMap != 0,
-                                      .standard = 0,
-                                      .choices = {{18, 0, L"Emboss", kEmbossHelp}, {19, 1, L"Bumpmap", kBumpMapHelp}}});
+               AddLightAndDepth(15, 10) && AddMode(18, m_settings->bumpMap, 0);
     }
 
     void LayoutControls() override {
-        CMotionDlg::LayoutControls();
+        CBaseDlg::LayoutControls();
         m_lightAngle.Place(Row(320, 130, 150, 30));
         m_elevation.Place(Row(345, 130, 150, 30));
         m_depth.Place(Row(370, 130, 150, 30));
@@ -63,11 +39,6 @@ private:
         m_filter->put_BumpMap(m_mode.Value() == 1 ? VARIANT_TRUE : VARIANT_FALSE);
         PutReference();
     }
-
-    CValueSlider m_lightAngle;
-    CValueSlider m_elevation;
-    CValueSlider m_depth;
-    CRadioGroup m_mode;
 };
 
 }  // namespace
