@@ -16,8 +16,15 @@ constexpr POINT kFarAway{1270, 1015};
 DWORD g_testedThread = 0;
 HWND g_signalWindow = nullptr;
 
+BOOL CALLBACK PaintOne(HWND window, LPARAM) {
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    return TRUE;
+}
+
 LRESULT CALLBACK SignalProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == kSettled) {
+        // Painting comes after all messages, so it is asked for.
+        ::EnumThreadWindows(::GetCurrentThreadId(), PaintOne, 0);
         ::SetEvent(reinterpret_cast<HANDLE>(wParam));
         return 0;
     }

@@ -37,7 +37,7 @@ public:
     unsigned long PixelSum(const RECT& rect) const;
     bool HasText(const RECT& rect, COLORREF background) const;
 
-    /// Waits until the dialog's thread has handled all that was posted before.
+    /// Waits until the dialog's thread has handled all that was posted before, and painted what that changed.
     void Settle() const;
     /// Waits for something to come true, ten seconds at most.
     static bool WaitFor(const std::function<bool()>& condition);
