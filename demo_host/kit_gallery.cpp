@@ -10,10 +10,12 @@
 #include "skin/combo_list_box.h"
 #include "skin/fonts.h"
 #include "skin/hint_tip.h"
+#include "skin/radio_group.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_dialog.h"
 #include "skin/skin_edit.h"
 #include "skin/skin_folder.h"
+#include "skin/skin_heading.h"
 #include "skin/skin_message_box.h"
 #include "skin/skin_radio_button.h"
 #include "skin/skin_slider.h"
@@ -22,7 +24,7 @@
 namespace {
 
 constexpr int kWidth = 940;
-constexpr int kHeight = 660;
+constexpr int kHeight = 692;
 constexpr int kLabelLeft = 20;
 constexpr int kFirstColumn = 190;
 constexpr int kColumnWidth = 145;
@@ -71,7 +73,6 @@ protected:
     afx_msg void OnAnswer() { CSkinMessageBox(nullptr, L"One answer. Esc works too.").DoModal(); }
     afx_msg void OnQuestion();
     afx_msg void OnExtras();
-    afx_msg void OnRadio(UINT id);
     afx_msg LRESULT OnSliderChange(WPARAM info, LPARAM);
     DECLARE_MESSAGE_MAP()
 
@@ -103,21 +104,17 @@ private:
     std::wstring m_screenshot;
     std::deque<std::unique_ptr<CSkinItem>> m_items;
     std::deque<CSkinSlider> m_sliders;
-    CSkinRadioButton* m_radios[2] = {};
+    CRadioGroup m_radios;
     CVelComboListBox* m_combo = nullptr;
     int m_tipRow = 0;
     CHintTip m_tip;
 };
-
-constexpr UINT kFirstRadioId = 210;
-constexpr UINT kLastRadioId = 211;
 
 BEGIN_MESSAGE_MAP(CKitGalleryDlg, CSkinDialog)
     ON_WM_TIMER()
     ON_COMMAND(kAnswerId, OnAnswer)
     ON_COMMAND(kQuestionId, OnQuestion)
     ON_COMMAND(kExtrasId, OnExtras)
-    ON_COMMAND_RANGE(kFirstRadioId, kLastRadioId, OnRadio)
     ON_MESSAGE(WM_SKIN_SLIDER, OnSliderChange)
 END_MESSAGE_MAP()
 
@@ -225,9 +222,13 @@ bool CKitGalleryDlg::CreateControls() {
     AddText(L"Pop-up tip", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     Add<CSkinButton>(L"Point here", Cell(kNormal, row)).SetTipText(kTip);
     m_tipRow = row;
-    m_radios[0] = &Add<CSkinRadioButton>(L"This one", Cell(kDisabled, row), kFirstRadioId);
-    m_radios[1] = &Add<CSkinRadioButton>(L"Or that one", Cell(kLong, row++), kLastRadioId);
-    m_radios[0]->SetChecked(true);
+    m_radios.Create(*this, {{kNoId, 0, L"This one", nullptr}, {kNoId, 1, L"Or that one", nullptr}}, 0);
+    m_radios.Place(Cell(kDisabled, row++).TopLeft(), {kColumnWidth, kItemWidth});
+    AddText(L"Heading", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
+    auto& heading = Add<CSkinHeading>(L"A group of controls", CRect(Cell(kNormal, row).TopLeft(), CSize(415, 20)));
+    heading.SetFont(LabelFont());
+    heading.SetLeftAligned(true);
+    ++row;
     Add<CSkinButton>(L"Message...", Cell(kLong, row), kAnswerId);
     Add<CSkinButton>(L"Question...", Cell(kLong, row + 1), kQuestionId);
     Add<CSkinButton>(L"With extras...", Cell(kLong, row + 2), kExtrasId);
@@ -265,10 +266,6 @@ void CKitGalleryDlg::OnQuestion() {
 
 void CKitGalleryDlg::OnExtras() {
     CSkinMessageBox(L"Error!", L"The file could not be loaded.", MessageButtons::Answer, true).DoModal();
-}
-
-void CKitGalleryDlg::OnRadio(UINT id) {
-    for (UINT index = 0; index < 2; ++index) m_radios[index]->SetChecked(kFirstRadioId + index == id);
 }
 
 LRESULT CKitGalleryDlg::OnSliderChange(WPARAM wParam, LPARAM) {

@@ -9,8 +9,8 @@
 
 #include "dialogs/base/effect_settings_dlg.h"
 #include "effects/number_edit.h"
-#include "effects/radio_group.h"
 #include "effects/value_slider.h"
+#include "skin/radio_group.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_static.h"
 

@@ -1,4 +1,4 @@
-#include "effects/radio_group.h"
+#include "skin/radio_group.h"
 
 bool CRadioGroup::Create(CSkinDialog& dialog, const std::vector<Choice>& choices, int value) {
     for (const Choice& choice : choices) {
