@@ -310,17 +310,19 @@ TEST(BumpMap, AVideoOfOnePixelLeavesTheOffsetsOneStep) {
     EXPECT_EQ(session.record[5], 1);
 }
 
-TEST(MotionScan, AVideoOfTwoLinesLeavesNoChoice) {
-    Session session(EffectId::MotionScan, {1, 1, 50, 0, 0, 0, 1, 1}, {2, 2}, {2, 2});
-    session.Run([&](DialogDriver& dialog) {
-        EXPECT_NE(session.Pushes().find("put_LineIncrement(1)"), std::string::npos);
-        dialog.Press({200, 10}, dialog.Child(11));
-        EXPECT_NE(session.Pushes().find("put_LineIncrement(1)"), std::string::npos);
-        // The thumb is in the window, at the left, and can be drawn.
-        EXPECT_EQ(dialog.Pixel(0, 5, dialog.Child(11)), RGB(200, 200, 200));
-        dialog.Key(VK_RETURN);
-    });
-    EXPECT_EQ(session.record[2], 1);
+TEST(MotionScan, AVideoOfTwoLinesOrLessLeavesNoChoice) {
+    for (const int lines : {2, 1, 0, INT_MIN}) {
+        SCOPED_TRACE(lines);
+        Session session(EffectId::MotionScan, {1, 1, 50, 0, 0, 0, 1, 1}, {2, lines}, {2, 2});
+        session.Run([&](DialogDriver& dialog) {
+            EXPECT_NE(session.Pushes().find("put_LineIncrement(1)"), std::string::npos);
+            dialog.Press({200, 10}, dialog.Child(11));
+            EXPECT_NE(session.Pushes().find("put_LineIncrement(1)"), std::string::npos);
+            EXPECT_EQ(dialog.Pixel(0, 5, dialog.Child(11)), RGB(200, 200, 200)) << "the thumb is at the left";
+            dialog.Key(VK_RETURN);
+        });
+        EXPECT_EQ(session.record[2], 1);
+    }
 }
 
 TEST(RadioPairs, OneIsSelectedWhateverTheRecordSays) {
