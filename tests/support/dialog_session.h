@@ -9,12 +9,13 @@
 #include <gtest/gtest.h>
 
 #include "support/dialog_driver.h"
+#include "support/expected_calls.h"
 #include "support/recording_host.h"
 
 struct Session {
     Session(EffectId effect, std::vector<std::int32_t> initial, SIZE videoSize = {720, 480},
-            SIZE frameSize = {360, 240})
-        : id(effect), record(std::move(initial)), video(videoSize), frame(frameSize), host(effect) {}
+            SIZE frameSize = {360, 240}, HostOptions options = {})
+        : id(effect), record(std::move(initial)), video(videoSize), frame(frameSize), host(effect, options) {}
 
     void Run(const std::function<void(DialogDriver&)>& script) {
         IMediaHost* pointer = &host;
@@ -22,7 +23,10 @@ struct Session {
             [&] { result = ShowSettingsDialog(&pointer, id, video.cx, video.cy, frame.cx, frame.cy, record.data()); },
             script);
         EXPECT_EQ(host.OpenReferences(), 0U);
+        EXPECT_EQ(host.ActiveCount(), 0U);
     }
+    /// All calls since the last time, but for the preview's start, which comes by a timer.
+    Lines Calls() { return WithoutRefresh(host.Calls().Take()); }
     /// The setters that were called since the last time, in one line.
     std::string Pushes() {
         std::string all;
