@@ -282,9 +282,12 @@ TEST(Endurance, OpeningAllDialogsAgainAndAgainLeavesNothingBehind) {
     openAll();
     const int objects = CountGdiObjects();
     const int windows = CountWindows();
-    for (int round = 0; round < 6; ++round) openAll();
+    const int blocks = CountHeapBlocks();
+    constexpr int kRounds = 6;
+    for (int round = 0; round < kRounds; ++round) openAll();
     EXPECT_EQ(CountGdiObjects(), objects);
     EXPECT_EQ(CountWindows(), windows);
+    EXPECT_LT(CountHeapBlocks() - blocks, kRounds) << "less than one block per opening of any dialog";
 }
 
 }  // namespace

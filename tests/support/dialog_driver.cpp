@@ -208,6 +208,17 @@ int CountGdiObjects() {
     return count;
 }
 
+int CountHeapBlocks() {
+    HANDLE heaps[64] = {};
+    const DWORD known = ::GetProcessHeaps(64, heaps);
+    int count = 0;
+    for (DWORD index = 0; index < known; ++index) {
+        PROCESS_HEAP_ENTRY entry{};
+        while (::HeapWalk(heaps[index], &entry)) count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+    }
+    return count;
+}
+
 int CountWindows() {
     int count = 0;
     ::EnumThreadWindows(::GetCurrentThreadId(), CountOne, reinterpret_cast<LPARAM>(&count));

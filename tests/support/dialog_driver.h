@@ -57,5 +57,7 @@ void RunDialog(const std::function<void()>& open, const std::function<void(Dialo
 
 /// GDI objects of the process; the system's own count is not kept everywhere.
 int CountGdiObjects();
+/// Blocks in use in all heaps of the process, those of new included.
+int CountHeapBlocks();
 /// Top-level windows of the calling thread.
 int CountWindows();
