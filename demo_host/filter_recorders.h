@@ -2,7 +2,10 @@
 // base: it derives from the interface and has Record(name, values...), which returns what the setter returns.
 #pragma once
 
+#include <cstdlib>
+
 #include "effect_settings/effect_filters.h"
+#include "effect_settings/effect_settings.h"
 
 #define RECORD_SWITCH(setter) \
     HRESULT STDMETHODCALLTYPE setter(VARIANT_BOOL value) override { return this->Record(#setter, value); }
@@ -333,3 +336,73 @@ public:
 
 #undef RECORD_SWITCH
 #undef RECORD_NUMBER
+
+/// The one list of which recorder answers for which interface: calls make.operator()<Recorder, Interface, Id>() for a
+/// known effect.
+template <typename Make>
+auto MakeForEffect(EffectId effect, Make make) {
+    switch (effect) {
+        case EffectId::AutoContrast:
+            return make.template operator()<SwitchRecorder, IEffectAutoContrast, IID_IEffectAutoContrast>();
+        case EffectId::AutoIntensity:
+            return make.template operator()<SwitchRecorder, IEffectAutoIntensity, IID_IEffectAutoIntensity>();
+        case EffectId::AutoLevel:
+            return make.template operator()<SwitchRecorder, IEffectAutoLevel, IID_IEffectAutoLevel>();
+        case EffectId::Brightness:
+            return make.template operator()<BrightnessRecorder, IEffectBrightness, IID_IEffectBrightness>();
+        case EffectId::Color:
+            return make.template operator()<ColorRecorder, IEffectColor, IID_IEffectColor>();
+        case EffectId::Deblocking:
+            return make.template operator()<DeblockingRecorder, IEffectDeblocking, IID_IEffectDeblocking>();
+        case EffectId::EdgeEnhance:
+            return make.template operator()<EdgeEnhanceRecorder, IEffectEdgeEnhance, IID_IEffectEdgeEnhance>();
+        case EffectId::Aging:
+            return make.template operator()<AgingRecorder, IEffectAging, IID_IEffectAging>();
+        case EffectId::BumpMap:
+            return make.template operator()<BumpMapRecorder, IEffectBumpMap, IID_IEffectBumpMap>();
+        case EffectId::Dizzy:
+            return make.template operator()<DizzyRecorder, IEffectDizzy, IID_IEffectDizzy>();
+        case EffectId::Fire:
+            return make.template operator()<FireRecorder, IEffectFire, IID_IEffectFire>();
+        case EffectId::GlassTile:
+            return make.template operator()<GlassTileRecorder, IEffectGlassTile, IID_IEffectGlassTile>();
+        case EffectId::Hologram:
+            return make.template operator()<HologramRecorder, IEffectHologram, IID_IEffectHologram>();
+        case EffectId::Lens:
+            return make.template operator()<LensRecorder, IEffectLens, IID_IEffectLens>();
+        case EffectId::Lightning:
+            return make.template operator()<LightningRecorder, IEffectLightning, IID_IEffectLightning>();
+        case EffectId::Maze:
+            return make.template operator()<MazeRecorder, IEffectMaze, IID_IEffectMaze>();
+        case EffectId::MotionBlur:
+            return make.template operator()<MotionBlurRecorder, IEffectMotionBlur, IID_IEffectMotionBlur>();
+        case EffectId::MotionEmboss:
+            return make.template operator()<MotionEmbossRecorder, IEffectMotionEmboss, IID_IEffectMotionEmboss>();
+        case EffectId::MotionMosaic:
+            return make.template operator()<MotionMosaicRecorder, IEffectMotionMosaic, IID_IEffectMotionMosaic>();
+        case EffectId::MotionScan:
+            return make.template operator()<MotionScanRecorder, IEffectMotionScan, IID_IEffectMotionScan>();
+        case EffectId::Particles:
+            return make.template operator()<ParticlesRecorder, IEffectParticles, IID_IEffectParticles>();
+        case EffectId::Rain:
+            return make.template operator()<RainRecorder, IEffectRain, IID_IEffectRain>();
+        case EffectId::Streak:
+            return make.template operator()<StreakRecorder, IEffectStreak, IID_IEffectStreak>();
+        case EffectId::Wave:
+            return make.template operator()<WaveRecorder, IEffectWave, IID_IEffectWave>();
+        case EffectId::Emboss:
+            return make.template operator()<EmbossRecorder, IEffectEmboss, IID_IEffectEmboss>();
+        case EffectId::GammaCorrection:
+            return make
+                .template operator()<GammaCorrectionRecorder, IEffectGammaCorrection, IID_IEffectGammaCorrection>();
+        case EffectId::Mosaic:
+            return make.template operator()<MosaicRecorder, IEffectMosaic, IID_IEffectMosaic>();
+        case EffectId::UnsharpMask:
+            return make.template operator()<UnsharpMaskRecorder, IEffectUnsharpMask, IID_IEffectUnsharpMask>();
+        case EffectId::VideoRotation:
+            return make.template operator()<VideoRotationRecorder, IEffectVideoRotation, IID_IEffectVideoRotation>();
+        case EffectId::AudioChorus:
+            return make.template operator()<AudioChorusRecorder, IEffectAudioChorus, IID_IEffectAudioChorus>();
+    }
+    std::abort();  // No effect.
+}

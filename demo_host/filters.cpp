@@ -1,5 +1,6 @@
 #include "demo_host/filters.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -77,87 +78,50 @@ private:
     std::array<std::uint8_t, 256> m_table{};
 };
 
+/// Squares that take the colour of their upper left pixel, in the area or everywhere.
+class CMosaicFilter : public MosaicRecorder<CFilter<IEffectMosaic, IID_IEffectMosaic>> {
+public:
+    using MosaicRecorder::MosaicRecorder;
+
+    HRESULT STDMETHODCALLTYPE SetMosaicParams(MosaicParams params) override {
+        m_params = params;
+        return MosaicRecorder::SetMosaicParams(params);
+    }
+    HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams area) override {
+        m_area = area;
+        return MosaicRecorder::SetAreaParams(area);
+    }
+
+    void Process(Frame& frame) override {
+        if (!m_params.enabled || m_params.mosaicSize < 2) return;
+        const bool limited = m_area.enabled != 0;
+        const int left = limited ? (std::max)(m_area.left, 0) : 0;
+        const int top = limited ? (std::max)(m_area.top, 0) : 0;
+        const int right = limited ? (std::min)(m_area.right, frame.width) : frame.width;
+        const int bottom = limited ? (std::min)(m_area.bottom, frame.height) : frame.height;
+        const auto pixel = [&frame](int x, int y) -> std::uint32_t& {
+            return frame.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.width) +
+                                static_cast<std::size_t>(x)];
+        };
+        for (int y = top; y < bottom; ++y) {
+            for (int x = left; x < right; ++x) {
+                pixel(x, y) = pixel(x - (x - left) % m_params.mosaicSize, y - (y - top) % m_params.mosaicSize);
+            }
+        }
+    }
+
+private:
+    MosaicParams m_params{};
+    AreaParams m_area{};
+};
+
 }  // namespace
 
 ComPtr<IDemoProcessor> MakeProcessor(const Effect& effect) {
-    switch (effect.id) {
-        case EffectId::GammaCorrection:
-            return Adopt<IDemoProcessor>(new CGammaFilter(effect));
-        case EffectId::AutoContrast:
-            return Adopt<IDemoProcessor>(
-                new SwitchRecorder<CPassThrough<IEffectAutoContrast, IID_IEffectAutoContrast>>(effect));
-        case EffectId::AutoIntensity:
-            return Adopt<IDemoProcessor>(
-                new SwitchRecorder<CPassThrough<IEffectAutoIntensity, IID_IEffectAutoIntensity>>(effect));
-        case EffectId::AutoLevel:
-            return Adopt<IDemoProcessor>(
-                new SwitchRecorder<CPassThrough<IEffectAutoLevel, IID_IEffectAutoLevel>>(effect));
-        case EffectId::Brightness:
-            return Adopt<IDemoProcessor>(
-                new BrightnessRecorder<CPassThrough<IEffectBrightness, IID_IEffectBrightness>>(effect));
-        case EffectId::Deblocking:
-            return Adopt<IDemoProcessor>(
-                new DeblockingRecorder<CPassThrough<IEffectDeblocking, IID_IEffectDeblocking>>(effect));
-        case EffectId::EdgeEnhance:
-            return Adopt<IDemoProcessor>(
-                new EdgeEnhanceRecorder<CPassThrough<IEffectEdgeEnhance, IID_IEffectEdgeEnhance>>(effect));
-        case EffectId::Fire:
-            return Adopt<IDemoProcessor>(new FireRecorder<CPassThrough<IEffectFire, IID_IEffectFire>>(effect));
-        case EffectId::Hologram:
-            return Adopt<IDemoProcessor>(
-                new HologramRecorder<CPassThrough<IEffectHologram, IID_IEffectHologram>>(effect));
-        case EffectId::Lightning:
-            return Adopt<IDemoProcessor>(
-                new LightningRecorder<CPassThrough<IEffectLightning, IID_IEffectLightning>>(effect));
-        case EffectId::MotionBlur:
-            return Adopt<IDemoProcessor>(
-                new MotionBlurRecorder<CPassThrough<IEffectMotionBlur, IID_IEffectMotionBlur>>(effect));
-        case EffectId::MotionEmboss:
-            return Adopt<IDemoProcessor>(
-                new MotionEmbossRecorder<CPassThrough<IEffectMotionEmboss, IID_IEffectMotionEmboss>>(effect));
-        case EffectId::MotionMosaic:
-            return Adopt<IDemoProcessor>(
-                new MotionMosaicRecorder<CPassThrough<IEffectMotionMosaic, IID_IEffectMotionMosaic>>(effect));
-        case EffectId::Particles:
-            return Adopt<IDemoProcessor>(
-                new ParticlesRecorder<CPassThrough<IEffectParticles, IID_IEffectParticles>>(effect));
-        case EffectId::Streak:
-            return Adopt<IDemoProcessor>(new StreakRecorder<CPassThrough<IEffectStreak, IID_IEffectStreak>>(effect));
-        case EffectId::Wave:
-            return Adopt<IDemoProcessor>(new WaveRecorder<CPassThrough<IEffectWave, IID_IEffectWave>>(effect));
-        case EffectId::UnsharpMask:
-            return Adopt<IDemoProcessor>(
-                new UnsharpMaskRecorder<CPassThrough<IEffectUnsharpMask, IID_IEffectUnsharpMask>>(effect));
-        case EffectId::VideoRotation:
-            return Adopt<IDemoProcessor>(
-                new VideoRotationRecorder<CPassThrough<IEffectVideoRotation, IID_IEffectVideoRotation>>(effect));
-        case EffectId::AudioChorus:
-            return Adopt<IDemoProcessor>(
-                new AudioChorusRecorder<CPassThrough<IEffectAudioChorus, IID_IEffectAudioChorus>>(effect));
-        case EffectId::Color:
-            return Adopt<IDemoProcessor>(new ColorRecorder<CPassThrough<IEffectColor, IID_IEffectColor>>(effect));
-        case EffectId::Aging:
-            return Adopt<IDemoProcessor>(new AgingRecorder<CPassThrough<IEffectAging, IID_IEffectAging>>(effect));
-        case EffectId::BumpMap:
-            return Adopt<IDemoProcessor>(new BumpMapRecorder<CPassThrough<IEffectBumpMap, IID_IEffectBumpMap>>(effect));
-        case EffectId::Dizzy:
-            return Adopt<IDemoProcessor>(new DizzyRecorder<CPassThrough<IEffectDizzy, IID_IEffectDizzy>>(effect));
-        case EffectId::GlassTile:
-            return Adopt<IDemoProcessor>(
-                new GlassTileRecorder<CPassThrough<IEffectGlassTile, IID_IEffectGlassTile>>(effect));
-        case EffectId::Lens:
-            return Adopt<IDemoProcessor>(new LensRecorder<CPassThrough<IEffectLens, IID_IEffectLens>>(effect));
-        case EffectId::Maze:
-            return Adopt<IDemoProcessor>(new MazeRecorder<CPassThrough<IEffectMaze, IID_IEffectMaze>>(effect));
-        case EffectId::MotionScan:
-            return Adopt<IDemoProcessor>(
-                new MotionScanRecorder<CPassThrough<IEffectMotionScan, IID_IEffectMotionScan>>(effect));
-        case EffectId::Rain:
-            return Adopt<IDemoProcessor>(new RainRecorder<CPassThrough<IEffectRain, IID_IEffectRain>>(effect));
-        case EffectId::Emboss:
-            return Adopt<IDemoProcessor>(new EmbossRecorder<CPassThrough<IEffectEmboss, IID_IEffectEmboss>>(effect));
-        case EffectId::Mosaic:
-            return Adopt<IDemoProcessor>(new MosaicRecorder<CPassThrough<IEffectMosaic, IID_IEffectMosaic>>(effect));
-    }
-    return nullptr;
+    if (effect.id == EffectId::GammaCorrection) return Adopt<IDemoProcessor>(new CGammaFilter(effect));
+    if (effect.id == EffectId::Mosaic) return Adopt<IDemoProcessor>(new CMosaicFilter(effect));
+    return MakeForEffect(
+        effect.id, [&effect]<template <typename> typename Recorder, typename Properties, const IID & Id>() {
+            return Adopt<IDemoProcessor>(new Recorder<CPassThrough<Properties, Id>>(effect));
+        });
 }

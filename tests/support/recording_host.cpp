@@ -45,95 +45,12 @@ namespace {
 
 using FilterOwner = std::unique_ptr<IUnknown, void (*)(IUnknown*)>;
 
-template <typename Filter>
-FilterOwner MakeFilter(Trace& trace, const bool& hasInterface) {
-    return FilterOwner(new Filter(trace, hasInterface), [](IUnknown* filter) { delete static_cast<Filter*>(filter); });
-}
-
 FilterOwner MakeFilterFor(EffectId effect, Trace& trace, const bool& hasInterface) {
-    switch (effect) {
-        case EffectId::AutoContrast:
-            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoContrast, IID_IEffectAutoContrast>>>(
-                trace, hasInterface);
-        case EffectId::AutoIntensity:
-            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoIntensity, IID_IEffectAutoIntensity>>>(
-                trace, hasInterface);
-        case EffectId::AutoLevel:
-            return MakeFilter<SwitchRecorder<RecordingFilter<IEffectAutoLevel, IID_IEffectAutoLevel>>>(
-                trace, hasInterface);
-        case EffectId::Brightness:
-            return MakeFilter<BrightnessRecorder<RecordingFilter<IEffectBrightness, IID_IEffectBrightness>>>(
-                trace, hasInterface);
-        case EffectId::Deblocking:
-            return MakeFilter<DeblockingRecorder<RecordingFilter<IEffectDeblocking, IID_IEffectDeblocking>>>(
-                trace, hasInterface);
-        case EffectId::EdgeEnhance:
-            return MakeFilter<EdgeEnhanceRecorder<RecordingFilter<IEffectEdgeEnhance, IID_IEffectEdgeEnhance>>>(
-                trace, hasInterface);
-        case EffectId::Fire:
-            return MakeFilter<FireRecorder<RecordingFilter<IEffectFire, IID_IEffectFire>>>(trace, hasInterface);
-        case EffectId::Hologram:
-            return MakeFilter<HologramRecorder<RecordingFilter<IEffectHologram, IID_IEffectHologram>>>(
-                trace, hasInterface);
-        case EffectId::Lightning:
-            return MakeFilter<LightningRecorder<RecordingFilter<IEffectLightning, IID_IEffectLightning>>>(
-                trace, hasInterface);
-        case EffectId::MotionBlur:
-            return MakeFilter<MotionBlurRecorder<RecordingFilter<IEffectMotionBlur, IID_IEffectMotionBlur>>>(
-                trace, hasInterface);
-        case EffectId::MotionEmboss:
-            return MakeFilter<MotionEmbossRecorder<RecordingFilter<IEffectMotionEmboss, IID_IEffectMotionEmboss>>>(
-                trace, hasInterface);
-        case EffectId::MotionMosaic:
-            return MakeFilter<MotionMosaicRecorder<RecordingFilter<IEffectMotionMosaic, IID_IEffectMotionMosaic>>>(
-                trace, hasInterface);
-        case EffectId::Particles:
-            return MakeFilter<ParticlesRecorder<RecordingFilter<IEffectParticles, IID_IEffectParticles>>>(
-                trace, hasInterface);
-        case EffectId::Streak:
-            return MakeFilter<StreakRecorder<RecordingFilter<IEffectStreak, IID_IEffectStreak>>>(trace, hasInterface);
-        case EffectId::Wave:
-            return MakeFilter<WaveRecorder<RecordingFilter<IEffectWave, IID_IEffectWave>>>(trace, hasInterface);
-        case EffectId::GammaCorrection:
-            return MakeFilter<
-                GammaCorrectionRecorder<RecordingFilter<IEffectGammaCorrection, IID_IEffectGammaCorrection>>>(
-                trace, hasInterface);
-        case EffectId::UnsharpMask:
-            return MakeFilter<UnsharpMaskRecorder<RecordingFilter<IEffectUnsharpMask, IID_IEffectUnsharpMask>>>(
-                trace, hasInterface);
-        case EffectId::VideoRotation:
-            return MakeFilter<VideoRotationRecorder<RecordingFilter<IEffectVideoRotation, IID_IEffectVideoRotation>>>(
-                trace, hasInterface);
-        case EffectId::AudioChorus:
-            return MakeFilter<AudioChorusRecorder<RecordingFilter<IEffectAudioChorus, IID_IEffectAudioChorus>>>(
-                trace, hasInterface);
-        case EffectId::Color:
-            return MakeFilter<ColorRecorder<RecordingFilter<IEffectColor, IID_IEffectColor>>>(trace, hasInterface);
-        case EffectId::Aging:
-            return MakeFilter<AgingRecorder<RecordingFilter<IEffectAging, IID_IEffectAging>>>(trace, hasInterface);
-        case EffectId::BumpMap:
-            return MakeFilter<BumpMapRecorder<RecordingFilter<IEffectBumpMap, IID_IEffectBumpMap>>>(
-                trace, hasInterface);
-        case EffectId::Dizzy:
-            return MakeFilter<DizzyRecorder<RecordingFilter<IEffectDizzy, IID_IEffectDizzy>>>(trace, hasInterface);
-        case EffectId::GlassTile:
-            return MakeFilter<GlassTileRecorder<RecordingFilter<IEffectGlassTile, IID_IEffectGlassTile>>>(
-                trace, hasInterface);
-        case EffectId::Lens:
-            return MakeFilter<LensRecorder<RecordingFilter<IEffectLens, IID_IEffectLens>>>(trace, hasInterface);
-        case EffectId::Maze:
-            return MakeFilter<MazeRecorder<RecordingFilter<IEffectMaze, IID_IEffectMaze>>>(trace, hasInterface);
-        case EffectId::MotionScan:
-            return MakeFilter<MotionScanRecorder<RecordingFilter<IEffectMotionScan, IID_IEffectMotionScan>>>(
-                trace, hasInterface);
-        case EffectId::Rain:
-            return MakeFilter<RainRecorder<RecordingFilter<IEffectRain, IID_IEffectRain>>>(trace, hasInterface);
-        case EffectId::Emboss:
-            return MakeFilter<EmbossRecorder<RecordingFilter<IEffectEmboss, IID_IEffectEmboss>>>(trace, hasInterface);
-        case EffectId::Mosaic:
-            return MakeFilter<MosaicRecorder<RecordingFilter<IEffectMosaic, IID_IEffectMosaic>>>(trace, hasInterface);
-    }
-    return {nullptr, nullptr};
+    return MakeForEffect(effect, [&]<template <typename> typename Recorder, typename Properties, const IID & Id>() {
+        using Filter = Recorder<RecordingFilter<Properties, Id>>;
+        const auto destroy = [](IUnknown* filter) { delete static_cast<Filter*>(filter); };
+        return FilterOwner(new Filter(trace, hasInterface), destroy);
+    });
 }
 
 /// References beyond the owner's.
