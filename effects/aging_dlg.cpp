@@ -8,7 +8,9 @@
 namespace {
 
 // Radio groups are saved as their choice's number; filters get the bit of that number.
-enum ColorMode { kRandomColor, kOriginalColor, kCustomColor };
+constexpr int kRandomColor = 0;
+constexpr int kOriginalColor = 1;
+constexpr int kCustomColor = 2;
 
 constexpr COLORREF kDefaultDustColor = 0x000000;
 constexpr COLORREF kDefaultPitsColor = 0x969696;
