@@ -7,6 +7,7 @@
 #include "skin/numbers.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_edit.h"
+#include "skin/skin_heading.h"
 #include "skin/skin_radio_button.h"
 #include "skin/skin_slider.h"
 #include "skin/skin_static.h"
@@ -281,6 +282,29 @@ TEST(KitItems, ALabelWithoutABackgroundShowsItsOwnColourAndASwatchItsColour) {
         EXPECT_EQ(driver.Pixel(100, 160), RGB(10, 20, 30));
         dialog.Do([&] { swatch.SetColor(RGB(200, 100, 50)); });
         EXPECT_EQ(driver.Pixel(100, 160), RGB(200, 100, 50));
+    });
+}
+
+TEST(KitItems, AHeadingsLineBeginsWhereItsTextEnds) {
+    CSkinHeading named;
+    CSkinHeading bare;
+    CKitDialog dialog([&](CKitDialog& parent) {
+        Put(parent, named, L"A heading", CRect(50, 100, 350, 120), 1);
+        Put(parent, bare, L"", CRect(50, 150, 350, 170), 2);
+        named.SetLeftAligned(true);
+    });
+    const auto lineBegin = [](DialogDriver& driver, int y) {
+        int x = 350;
+        while (x > 50 && driver.Pixel(x - 1, y) == RGB(102, 102, 102)) --x;
+        return x;
+    };
+    dialog.Run([&](DialogDriver& driver) {
+        EXPECT_EQ(lineBegin(driver, 160), 50);
+        const int begin = lineBegin(driver, 110);
+        EXPECT_LT(begin, 200);
+        EXPECT_TRUE(driver.HasText({begin - 30, 100, begin, 120}, RGB(20, 20, 20)));
+        EXPECT_FALSE(driver.HasText({begin - 4, 100, begin, 120}, RGB(20, 20, 20))) << "a gap";
+        EXPECT_FALSE(driver.HasText({begin, 100, 350, 110}, RGB(20, 20, 20))) << "no text along the line";
     });
 }
 
