@@ -67,13 +67,13 @@ protected:
         CEffectDlg<Filter, Settings>::ResetToDefaults();
     }
 
-    /// The end of a push to a filter that takes the area as a structure.
+    /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
     AreaParams AreaStructure() const {
         const RECT edges = ConvertedArea();
         return {edges.left, edges.top, edges.right, edges.bottom, m_area.IsOn(), {0, 0, 1, 1, 0}};
     }
 
-    /// The same for a filter with a setter per edge.
+    /// Sends the area to a filter with a setter per edge, whatever its switch says: the filter looks at that.
     void PutArea(InvalidArea invalid, AreaSwitch place) {
         auto& filter = *this->m_filter.Get();
         const bool valid = IsAreaValid();

@@ -433,9 +433,9 @@ struct AudioChorusSettings {
 static_assert(sizeof(AudioChorusSettings) == 28);
 
 /// Results of ShowSettingsDialog.
-inline constexpr std::int32_t kSettingsNotShown = 0;     ///< No record, or no such effect: nothing was shown.
-inline constexpr std::int32_t kSettingsAccepted = 1;     ///< OK was pressed: the record holds the new values.
-inline constexpr std::int32_t kSettingsCancelled = 2;    ///< Cancel, Esc or the close button: the record is as it was.
+inline constexpr std::int32_t kSettingsNotShown = 0;   ///< No record, or no such effect: nothing was shown.
+inline constexpr std::int32_t kSettingsAccepted = 1;   ///< OK was pressed: the record holds the new values.
+inline constexpr std::int32_t kSettingsCancelled = 2;  ///< Cancel, Esc, close button: the record is as opening left it.
 inline constexpr std::int32_t kSettingsNotCreated = -1;  ///< The dialog's window could not be created.
 
 /// Shows the settings dialog of one effect and returns when the user has closed it.
