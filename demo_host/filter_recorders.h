@@ -3,9 +3,19 @@
 #pragma once
 
 #include <cstdlib>
+#include <string>
 
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/effect_settings.h"
+
+/// A call as traces show it: "put_Hue(180)".
+template <typename... Values>
+std::string CallText(const char* setter, Values... values) {
+    std::string text = std::string(setter) + "(";
+    const char* separator = "";
+    ((text += separator + std::to_string(values), separator = ", "), ...);
+    return text + ")";
+}
 
 #define RECORD_SWITCH(setter) \
     HRESULT STDMETHODCALLTYPE setter(VARIANT_BOOL value) override { return this->Record(#setter, value); }

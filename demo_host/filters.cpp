@@ -27,10 +27,7 @@ protected:
     /// Writes a call of a setter to the trace.
     template <typename... Values>
     HRESULT Record(const char* setter, Values... values) {
-        std::string line = std::string("filter.") + setter + "(";
-        const char* separator = "";
-        ((line += separator + std::to_string(values), separator = ", "), ...);
-        Trace(line + ")");
+        Trace("filter." + CallText(setter, values...));
         return S_OK;
     }
 
@@ -47,21 +44,17 @@ public:
 };
 
 /// out = 255 * (in / 255) ^ (100 / factor): a power law, brighter above a factor of 100, darker below.
-class CGammaFilter : public CFilter<IEffectGammaCorrection, IID_IEffectGammaCorrection> {
+class CGammaFilter : public GammaCorrectionRecorder<CFilter<IEffectGammaCorrection, IID_IEffectGammaCorrection>> {
 public:
-    using CFilter::CFilter;
+    using GammaCorrectionRecorder::GammaCorrectionRecorder;
 
     HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams params) override {
-        Trace("filter.SetGammaParams(value=" + std::to_string(params.value) +
-              ", enabled=" + std::to_string(params.enabled) + ", " + std::to_string(params.reserved1) + ", " +
-              std::to_string(params.reserved2) + ")");
         m_enabled = params.enabled != 0 && params.value > 0;
-        if (!m_enabled) return S_OK;
-        for (std::size_t in = 0; in < m_table.size(); ++in) {
+        for (std::size_t in = 0; m_enabled && in < m_table.size(); ++in) {
             const double out = 255.0 * std::pow(static_cast<double>(in) / 255.0, 100.0 / params.value);
             m_table[in] = static_cast<std::uint8_t>(std::lround(out));
         }
-        return S_OK;
+        return GammaCorrectionRecorder::SetGammaParams(params);
     }
 
     void Process(Frame& frame) override {

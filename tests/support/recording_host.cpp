@@ -1,7 +1,5 @@
 #include "support/recording_host.h"
 
-#include "demo_host/filter_recorders.h"
-
 class RecordingHost::List : public Counted<IProcessorList> {
 public:
     List(RecordingHost& host, std::string name) : m_host(host), m_name(std::move(name)) {}

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "demo_host/filter_recorders.h"
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/effect_settings.h"
 #include "effect_settings/media_host.h"
@@ -44,10 +45,7 @@ protected:
     bool Knows(REFIID iid) const override { return m_hasInterface && iid == Id; }
     template <typename... Values>
     HRESULT Record(const char* call, Values... values) {
-        std::string line = std::string("filter.") + call + "(";
-        const char* separator = "";
-        ((line += separator + std::to_string(values), separator = ", "), ...);
-        m_trace.Add(line + ")");
+        m_trace.Add("filter." + CallText(call, values...));
         return S_OK;
     }
 
