@@ -10,14 +10,7 @@ public:
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_hue, {.id = 15,
-                                 .label = L"Hue(0 - 360):",
-                                 .min = 0,
-                                 .max = 360,
-                                 .field = &m_settings->hue,
-                                 .standard = 0,
-                                 .help = kHueHelp}) &&
+        return AddEnable(m_settings->enabled) && AddHue(m_hue, 15) &&
                AddSlider(m_noise, {.id = 16,
                                    .label = L"Noise(1 - 100):",
                                    .min = 1,

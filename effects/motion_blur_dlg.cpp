@@ -10,15 +10,7 @@ public:
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_hue, {.id = 13,
-                                 .label = L"Hue(0 - 360):",
-                                 .min = 0,
-                                 .max = 360,
-                                 .field = &m_settings->hue,
-                                 .standard = 0,
-                                 .help = kHueHelp}) &&
-               AddThreshold() &&
+        return AddEnable(m_settings->enabled) && AddHue(m_hue, 13) && AddThreshold() &&
                AddSlider(m_interval,
                          {.id = 15,
                           .label = L"Interval Frames(1 - 200):",

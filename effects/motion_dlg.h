@@ -6,7 +6,6 @@
 
 inline constexpr LPCWSTR kThresholdHelp =
     L"Value used to control an object's detection level. A lower threshold provides stronger object detection.";
-inline constexpr LPCWSTR kHueHelp = L"Value used to change the color of the effect.";
 
 template <typename Filter, typename Settings>
 class CMotionDlg : public CEffectDlg<Filter, Settings> {
@@ -25,6 +24,17 @@ protected:
              .field = &this->m_settings->threshold,
              .standard = 50,
              .help = help});
+    }
+
+    bool AddHue(CValueSlider& hue, UINT id) {
+        return this->AddSlider(
+            hue, {.id = id,
+                  .label = L"Hue(0 - 360):",
+                  .min = 0,
+                  .max = 360,
+                  .field = &this->m_settings->hue,
+                  .standard = 0,
+                  .help = L"Value used to change the color of the effect."});
     }
 
     bool AddNoReference() {
