@@ -51,7 +51,7 @@ protected:
     }
 
     bool Validate() override {
-        if (!m_area.IsOn() || IsAreaValid()) return true;
+        if (!m_area.IsOn() || IsValid(m_area.Typed())) return true;
         CSkinMessageBox(L"Error!", L"Invalid effect area, please input and try again!").DoModal();
         return false;
     }
@@ -69,20 +69,22 @@ protected:
 
     /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
     AreaParams AreaStructure() const {
-        const RECT edges = ConvertedArea();
+        const RECT typed = m_area.Typed();
+        const RECT edges = InFrame(IsValid(typed) ? typed : kDefaultEffectArea);
         return {edges.left, edges.top, edges.right, edges.bottom, m_area.IsOn(), {0, 0, 1, 1, 0}};
     }
 
     /// Sends the area to a filter with a setter per edge, whatever its switch says: the filter looks at that.
     void PutArea(InvalidArea invalid, AreaSwitch place) {
         auto& filter = *this->m_filter.Get();
-        const bool valid = IsAreaValid();
+        const RECT typed = m_area.Typed();
+        const bool valid = IsValid(typed);
         const VARIANT_BOOL on = m_area.IsOn() ? VARIANT_TRUE : VARIANT_FALSE;
         if (place == AreaSwitch::BeforeEdges || (place == AreaSwitch::BeforeValidEdgesOnly && valid)) {
             filter.put_AreaEnable(on);
         }
         if (valid || invalid == InvalidArea::ReplaceThenConvert) {
-            const RECT edges = ConvertedArea();
+            const RECT edges = InFrame(valid ? typed : kDefaultEffectArea);
             filter.put_AreaRight(edges.right);
             filter.put_AreaBottom(edges.bottom);
             filter.put_AreaLeft(edges.left);
@@ -100,12 +102,8 @@ protected:
 
 private:
     static SIZE VideoSize() { return {g_VideoWidth, g_VideoHeight}; }
-    bool IsAreaValid() const { return ValidateEffectArea(m_area.Typed(), VideoSize()); }
-
-    RECT ConvertedArea() const {
-        return ScaleEffectArea(
-            IsAreaValid() ? m_area.Typed() : kDefaultEffectArea, VideoSize(), {g_FrameWidth, g_FrameHeight});
-    }
+    static bool IsValid(const RECT& area) { return ValidateEffectArea(area, VideoSize()); }
+    static RECT InFrame(const RECT& area) { return ScaleEffectArea(area, VideoSize(), {g_FrameWidth, g_FrameHeight}); }
 
     void StoreEdges(const RECT& area) {
         this->m_settings->left = area.left;
