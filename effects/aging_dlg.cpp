@@ -35,56 +35,59 @@ struct Wording {
     LPCWSTR help;
 };
 
+/// What differs between dust and pits.
 struct SpecksSetup {
     UINT firstId;  ///< The others follow in the order of the controls.
     Wording on;
     Wording random;
-    Wording randomDensity;
+    LPCWSTR randomDensityHelp;
     Wording always;
     Wording density;
     LPCWSTR colorsLabel;
-    Wording colors[3];
-    Wording setColor;
+    LPCWSTR randomColorHelp;
+    LPCWSTR originalColorHelp;
+    LPCWSTR customColorHelp;
+    LPCWSTR setColorHelp;
     LPCWSTR colorHelp;
 };
 
 constexpr SpecksSetup kDust = {
-    30,
-    {L"Enable Dust", L"If checked, will add dust on the video."},
-    {L"Random dust", L"If checked, dust should be added randomly."},
-    {L"Random density",
-     L"If checked, density of the added dust will be random, if un-checked, density of the added "
-     L"dust is determined by the Dust Density control."},
-    {L"Always add dust",
-     L"If checked, dust should appear in every frame, if un-checked, dust should be added to "
-     L"random frames."},
-    {L"Dust density(0 - 100):",
-     L"Controls the density of the dust added on the video. Used only if Random density is checked. "},
-    L"Dust Colors:",
-    {{L"Random", L"If checked, random color is used for the dust."},
-     {L"Original", L"If checked, original dust color(black) will be used."},
-     {L"Custom", L"If checked, custom dust color will be used. Set the custom color by press Set color..."}},
-    {L"Set Color...", L"Set Custom Dust Color."},
-    L"Custom dust color."};
+    .firstId = 30,
+    .on = {L"Enable Dust", L"If checked, will add dust on the video."},
+    .random = {L"Random dust", L"If checked, dust should be added randomly."},
+    .randomDensityHelp =
+        L"If checked, density of the added dust will be random, if un-checked, density of the added "
+        L"dust is determined by the Dust Density control.",
+    .always = {L"Always add dust",
+               L"If checked, dust should appear in every frame, if un-checked, dust should be "
+               L"added to random frames."},
+    .density = {L"Dust density(0 - 100):",
+                L"Controls the density of the dust added on the video. Used only if Random density is checked. "},
+    .colorsLabel = L"Dust Colors:",
+    .randomColorHelp = L"If checked, random color is used for the dust.",
+    .originalColorHelp = L"If checked, original dust color(black) will be used.",
+    .customColorHelp = L"If checked, custom dust color will be used. Set the custom color by press Set color...",
+    .setColorHelp = L"Set Custom Dust Color.",
+    .colorHelp = L"Custom dust color."};
 
 constexpr SpecksSetup kPits = {
-    40,
-    {L"Enable Pits", L"If checked, will add Pits on the video."},
-    {L"Random pits", L"If checked, Pits should be added randomly."},
-    {L"Random density",
-     L"If checked, density of the added Pits will be random, if un-checked, density of the added "
-     L"Pits is determined by the Pits Density control."},
-    {L"Always add pits",
-     L"If checked, Pits should appear in every frame, if un-checked, Pits should be added to "
-     L"random frames."},
-    {L"Pits density(0 - 100):",
-     L"Controls the density of the Pits added on the video. Used only if Random density is checked."},
-    L"Pits Colors:",
-    {{L"Random", L"If checked, random color is used for the Pits."},
-     {L"Original", L"If checked, original Pits color(gray) will be used."},
-     {L"Custom", L"If checked, custom Pits color will be used. Set the custom color by press Set color..."}},
-    {L"Set Color...", L"Set Custom Pits Color."},
-    L"Custom Pits Color."};
+    .firstId = 40,
+    .on = {L"Enable Pits", L"If checked, will add Pits on the video."},
+    .random = {L"Random pits", L"If checked, Pits should be added randomly."},
+    .randomDensityHelp =
+        L"If checked, density of the added Pits will be random, if un-checked, density of the added "
+        L"Pits is determined by the Pits Density control.",
+    .always = {L"Always add pits",
+               L"If checked, Pits should appear in every frame, if un-checked, Pits should be "
+               L"added to random frames."},
+    .density = {L"Pits density(0 - 100):",
+                L"Controls the density of the Pits added on the video. Used only if Random density is checked."},
+    .colorsLabel = L"Pits Colors:",
+    .randomColorHelp = L"If checked, random color is used for the Pits.",
+    .originalColorHelp = L"If checked, original Pits color(gray) will be used.",
+    .customColorHelp = L"If checked, custom Pits color will be used. Set the custom color by press Set color...",
+    .setColorHelp = L"Set Custom Pits Color.",
+    .colorHelp = L"Custom Pits Color."};
 
 class CAgingDlg : public CAreaDlg<IEffectAging, AgingSettings> {
 public:
@@ -164,15 +167,10 @@ private:
                                          .standard = standard,
                                          .help = words.help});
             };
-        std::vector<CRadioGroup::Choice> colors;
-        for (const int mode : {kRandomColor, kOriginalColor, kCustomColor}) {
-            colors.push_back(
-                {setup.firstId + 5 + static_cast<UINT>(mode), mode, setup.colors[mode].text, setup.colors[mode].help});
-        }
         specks.color.SetColor(static_cast<COLORREF>(*fields.color) & 0xFFFFFF);
         return addBox(specks.on, 0, setup.on, fields.on, 1) && AddLabel(specks.line, L"") &&
                addBox(specks.random, 1, setup.random, fields.random, 1) &&
-               addBox(specks.randomDensity, 2, setup.randomDensity, fields.randomDensity, 1) &&
+               addBox(specks.randomDensity, 2, {L"Random density", setup.randomDensityHelp}, fields.randomDensity, 1) &&
                addBox(specks.always, 3, setup.always, fields.always, 0) &&
                AddSlider(specks.density,
                          {.id = setup.firstId + 4,
@@ -183,11 +181,14 @@ private:
                           .standard = 1,
                           .help = setup.density.help}) &&
                AddLabel(specks.colorsLabel, setup.colorsLabel) &&
-               AddRadioGroup(specks.colors, {.field = fields.colorMode,
-                                             .value = *fields.colorMode,
-                                             .standard = kOriginalColor,
-                                             .choices = colors}) &&
-               AddItem(specks.setColor, setup.setColor.text, setup.firstId + 8, setup.setColor.help) &&
+               AddRadioGroup(specks.colors,
+                             {.field = fields.colorMode,
+                              .value = *fields.colorMode,
+                              .standard = kOriginalColor,
+                              .choices = {{setup.firstId + 5, kRandomColor, L"Random", setup.randomColorHelp},
+                                          {setup.firstId + 6, kOriginalColor, L"Original", setup.originalColorHelp},
+                                          {setup.firstId + 7, kCustomColor, L"Custom", setup.customColorHelp}}}) &&
+               AddItem(specks.setColor, L"Set Color...", setup.firstId + 8, setup.setColorHelp) &&
                AddItem(specks.color, L"", setup.firstId + 9, setup.colorHelp);
     }
 
