@@ -167,13 +167,16 @@ TEST(DialogFrame, TheTitleBarDragsTheWindowButNotBesideItsRightEnd) {
             input.mi.dwFlags = flags;
             ::SendInput(1, &input, sizeof(input));
         };
+        const auto waitForDragging = [&](bool dragging) {
+            return DialogDriver::WaitFor([&] {
+                GUITHREADINFO info{};
+                info.cbSize = sizeof(info);
+                ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
+                return ((info.flags & GUI_INMOVESIZE) != 0) == dragging;
+            });
+        };
         send(MOUSEEVENTF_LEFTDOWN);
-        DialogDriver::WaitFor([&] {
-            GUITHREADINFO info{};
-            info.cbSize = sizeof(info);
-            ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
-            return (info.flags & GUI_INMOVESIZE) != 0;
-        });
+        ASSERT_TRUE(waitForDragging(true));
         ::SetCursorPos(start.x + 30, start.y + 20);
         RECT after{};
         DialogDriver::WaitFor([&] {
@@ -183,6 +186,8 @@ TEST(DialogFrame, TheTitleBarDragsTheWindowButNotBesideItsRightEnd) {
         send(MOUSEEVENTF_LEFTUP);
         EXPECT_EQ(after.left, before.left + 30);
         EXPECT_EQ(after.top, before.top + 20);
+        // Posted messages overtake input: a release that is still on its way would end the next press.
+        ASSERT_TRUE(waitForDragging(false));
         dialog.Settle();
 
         dialog.Click({471, 5});
