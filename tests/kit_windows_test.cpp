@@ -237,7 +237,7 @@ TEST(DropDownList, AFastSecondPressByTheRealMouseClosesIt) {
         ASSERT_TRUE(DialogDriver::WaitFor([&] { return box.Popup() != nullptr; }));
         click();
         EXPECT_TRUE(DialogDriver::WaitFor([&] { return box.Popup() == nullptr; }));
-        driver.Settle();
+        driver.SettleInput();
         EXPECT_EQ(box.Popup(), nullptr) << "the press that deactivates the list does not open it again";
     });
 }

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr UINT kSettled = WM_APP + 1;
+constexpr UINT kSettledInput = WM_APP + 2;
 constexpr DWORD kPatienceMs = 10000;
 constexpr POINT kFarAway{1270, 1015};
 
@@ -22,13 +23,22 @@ BOOL CALLBACK PaintOne(HWND window, LPARAM) {
 }
 
 LRESULT CALLBACK SignalProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == kSettled) {
-        // Painting comes after all messages, so it is asked for.
-        ::EnumThreadWindows(::GetCurrentThreadId(), PaintOne, 0);
-        ::SetEvent(reinterpret_cast<HANDLE>(wParam));
-        return 0;
+    switch (message) {
+        case kSettledInput:
+            // A posted message overtakes the pointer's moves and presses; a timer waits for them.
+            ::SetTimer(window, wParam, USER_TIMER_MINIMUM, nullptr);
+            return 0;
+        case WM_TIMER:
+            ::KillTimer(window, wParam);
+            [[fallthrough]];
+        case kSettled:
+            // Painting comes after all messages, so it is asked for.
+            ::EnumThreadWindows(::GetCurrentThreadId(), PaintOne, 0);
+            ::SetEvent(reinterpret_cast<HANDLE>(wParam));
+            return 0;
+        default:
+            return ::DefWindowProcW(window, message, wParam, lParam);
     }
-    return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
 struct DialogSearch {
@@ -56,6 +66,13 @@ HWND TopDialog(HWND other) {
     return search.found;
 }
 
+void WaitForSignal(UINT message) {
+    const HANDLE settled = ::CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    ::PostMessageW(g_signalWindow, message, reinterpret_cast<WPARAM>(settled), 0);
+    if (::WaitForSingleObject(settled, kPatienceMs) != WAIT_OBJECT_0) ADD_FAILURE() << "the dialog's thread hangs";
+    ::CloseHandle(settled);
+}
+
 void CloseWhateverIsOpen() {
     DialogDriver::WaitFor([] {
         const HWND dialog = TopDialog(nullptr);
@@ -66,12 +83,9 @@ void CloseWhateverIsOpen() {
 
 }  // namespace
 
-void DialogDriver::Settle() const {
-    const HANDLE settled = ::CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    ::PostMessageW(g_signalWindow, kSettled, reinterpret_cast<WPARAM>(settled), 0);
-    if (::WaitForSingleObject(settled, kPatienceMs) != WAIT_OBJECT_0) ADD_FAILURE() << "the dialog's thread hangs";
-    ::CloseHandle(settled);
-}
+void DialogDriver::Settle() const { WaitForSignal(kSettled); }
+
+void DialogDriver::SettleInput() const { WaitForSignal(kSettledInput); }
 
 void DialogDriver::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
     ::PostMessageW(m_dialog, message, wParam, lParam);
@@ -93,7 +107,7 @@ void DialogDriver::Click(POINT at, HWND window) {
 void DialogDriver::PointAt(POINT at) {
     ::ClientToScreen(m_dialog, &at);
     ::SetCursorPos(at.x, at.y);
-    Settle();
+    SettleInput();
 }
 
 bool DialogDriver::PointUntil(POINT at, const std::function<bool()>& condition) {

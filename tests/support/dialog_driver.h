@@ -39,6 +39,8 @@ public:
 
     /// Waits until the dialog's thread has handled all that was posted before, and painted what that changed.
     void Settle() const;
+    /// Settle that also waits for what the real pointer did before.
+    void SettleInput() const;
     /// Waits for something to come true, ten seconds at most.
     static bool WaitFor(const std::function<bool()>& condition);
     /// The visible dialog of the tested thread that is on top, another than a given one.
