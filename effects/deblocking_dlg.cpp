@@ -1,8 +1,8 @@
 // Deblocking: which algorithm smooths the edges of blocks, where they lie and how strongly.
 #include "effects/effect_dlg.h"
 #include "effects/effect_makers.h"
+#include "effects/frame_scale.h"
 #include "skin/combo_list_box.h"
-#include "skin/numbers.h"
 
 namespace {
 
@@ -74,10 +74,10 @@ private:
         if (!m_filter) return;
         m_filter->put_Enable(AutomationBool(m_enable));
         m_filter->put_Algorithm(m_algorithm.CurrentIndex());
-        m_filter->put_BlockOffsetX(InFrame(m_offsetX, g_FrameWidth, g_VideoWidth));
-        m_filter->put_BlockOffsetY(InFrame(m_offsetY, g_FrameHeight, g_VideoHeight));
-        m_filter->put_BlockWidth(InFrame(m_width, g_FrameWidth, g_VideoWidth));
-        m_filter->put_BlockHeight(InFrame(m_height, g_FrameHeight, g_VideoHeight));
+        m_filter->put_BlockOffsetX(ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
+        m_filter->put_BlockOffsetY(ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
+        m_filter->put_BlockWidth(ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
+        m_filter->put_BlockHeight(ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
         m_filter->put_EdgeThreshold(m_edgeThreshold.Value());
     }
 
@@ -93,11 +93,6 @@ private:
 
     /// The threshold applies to the four-line algorithm alone.
     bool UsesThreshold() const { return m_algorithm.CurrentIndex() == 1; }
-
-    /// From pixels of the source video to those of the processed frame.
-    static int InFrame(const CNumberEdit& edit, int frame, int video) {
-        return TruncateToInt(static_cast<double>(edit.Value()) * frame / video);
-    }
 
     CSkinStatic m_algorithmLabel;
     CVelComboListBox m_algorithm;

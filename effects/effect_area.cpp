@@ -2,15 +2,7 @@
 
 #include <algorithm>
 
-#include "skin/numbers.h"
-
-namespace {
-
-LONG Scale(LONG edge, LONG video, LONG frame) {
-    return TruncateToInt(static_cast<double>(edge) * static_cast<double>(frame) / static_cast<double>(video));
-}
-
-}  // namespace
+#include "effects/frame_scale.h"
 
 RECT ClampEffectArea(const RECT& area, SIZE video) {
     const LONG right = (std::max)((std::min)(area.right, video.cx), 1L);
@@ -24,7 +16,8 @@ bool ValidateEffectArea(const RECT& area, SIZE video) {
 }
 
 RECT ScaleEffectArea(const RECT& area, SIZE video, SIZE frame) {
-    return {Scale(area.left, video.cx, frame.cx), Scale(area.top, video.cy, frame.cy),
-            (std::max)(Scale(area.right, video.cx, frame.cx), 1L),
-            (std::max)(Scale(area.bottom, video.cy, frame.cy), 1L)};
+    const auto scaleX = [&](LONG edge) -> LONG { return ScaleToFrame(edge, video.cx, frame.cx); };
+    const auto scaleY = [&](LONG edge) -> LONG { return ScaleToFrame(edge, video.cy, frame.cy); };
+    return {
+        scaleX(area.left), scaleY(area.top), (std::max)(scaleX(area.right), 1L), (std::max)(scaleY(area.bottom), 1L)};
 }

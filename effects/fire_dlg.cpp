@@ -35,57 +35,61 @@ public:
 
 private:
     bool CreateControls() override {
-        const bool created =
-            AddEnable(m_settings->enabled) &&
-            AddSlider(m_gradientLevel,
-                      {.id = 15,
-                       .label = L"Gradient Level(0 - 100):",
-                       .min = 0,
-                       .max = 100,
-                       .field = &m_settings->gradientLevel,
-                       .standard = 50,
-                       .help = L"A percentage value that controls the colors graduation. For example 0 will result in "
-                               L"a very small number of colors used to draw the flame. Higher values result in more "
-                               L"colors used to draw the flames gradient color."}) &&
-            AddSlider(m_colorsOffset,
-                      {.id = 16,
-                       .label = L"Colors Offset(0 - 1000):",
-                       .min = 0,
-                       .max = 1000,
-                       .field = &m_settings->colorsOffset,
-                       .standard = 660,
-                       .help = L"Changes the colors used in generating the fire flames to another set of colors."}) &&
-            AddSlider(m_decay, {.id = 18,
-                                .label = L"Decay(1 - 100):",
-                                .min = 1,
-                                .max = 100,
-                                .field = &m_settings->decay,
-                                .standard = 15,
-                                .help = L"Controls the spread and height of the flames. A lower decay value will "
-                                        L"result in a greater spread of fire and higher flames."}) &&
-            AddThreshold(
-                L"Value used to control an object's detection level. A lower threshold provides stronger object "
-                L"detection. ") &&
-            AddNoReference() && AddFirstFrame() &&
-            AddCheckBox(m_showBackground,
-                        {.id = 17,
-                         .text = L"Show background",
-                         .field = &m_settings->showBackground,
-                         .standard = 0,
-                         .help = L"If checked, the background of the moving object will be "
-                                 L"displayed. Otherwise, a black background is displayed."}) &&
-            AddCheckBox(m_entireObject, {.id = 19,
-                                         .text = L"Fire",
-                                         .field = &m_settings->entireObject,
-                                         .standard = 1,
-                                         .help = L"If checked, the entire object will be covered in flames."}) &&
-            AddLabel(m_directionLabel, L"Flame Direction:");
-        for (std::size_t index = 0; created && index < kDirections.size(); ++index) {
+        SetDirections(m_settings->flameDirection);
+        return AddEnable(m_settings->enabled) &&
+               AddSlider(
+                   m_gradientLevel,
+                   {.id = 15,
+                    .label = L"Gradient Level(0 - 100):",
+                    .min = 0,
+                    .max = 100,
+                    .field = &m_settings->gradientLevel,
+                    .standard = 50,
+                    .help = L"A percentage value that controls the colors graduation. For example 0 will result in "
+                            L"a very small number of colors used to draw the flame. Higher values result in more "
+                            L"colors used to draw the flames gradient color."}) &&
+               AddSlider(
+                   m_colorsOffset,
+                   {.id = 16,
+                    .label = L"Colors Offset(0 - 1000):",
+                    .min = 0,
+                    .max = 1000,
+                    .field = &m_settings->colorsOffset,
+                    .standard = 660,
+                    .help = L"Changes the colors used in generating the fire flames to another set of colors."}) &&
+               AddSlider(m_decay, {.id = 18,
+                                   .label = L"Decay(1 - 100):",
+                                   .min = 1,
+                                   .max = 100,
+                                   .field = &m_settings->decay,
+                                   .standard = 15,
+                                   .help = L"Controls the spread and height of the flames. A lower decay value will "
+                                           L"result in a greater spread of fire and higher flames."}) &&
+               AddThreshold(
+                   L"Value used to control an object's detection level. A lower threshold provides stronger object "
+                   L"detection. ") &&
+               AddNoReference() && AddFirstFrame() &&
+               AddCheckBox(m_showBackground,
+                           {.id = 17,
+                            .text = L"Show background",
+                            .field = &m_settings->showBackground,
+                            .standard = 0,
+                            .help = L"If checked, the background of the moving object will be "
+                                    L"displayed. Otherwise, a black background is displayed."}) &&
+               AddCheckBox(m_entireObject, {.id = 19,
+                                            .text = L"Fire",
+                                            .field = &m_settings->entireObject,
+                                            .standard = 1,
+                                            .help = L"If checked, the entire object will be covered in flames."}) &&
+               AddLabel(m_directionLabel, L"Flame Direction:") && AddDirections();
+    }
+
+    bool AddDirections() {
+        for (std::size_t index = 0; index < kDirections.size(); ++index) {
             const Direction& direction = kDirections[index];
-            m_directions[index].SetChecked((m_settings->flameDirection & direction.bit) != 0);
             if (!AddItem(m_directions[index], direction.caption, direction.id, direction.help)) return false;
         }
-        return created;
+        return true;
     }
 
     void LayoutControls() override {

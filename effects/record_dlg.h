@@ -37,7 +37,6 @@ protected:
         std::optional<int> standard;
         LPCWSTR help;
     };
-
     struct RadioSetup {
         std::int32_t* field;
         int value;  ///< What is selected first; for a value that is no choice nothing is, and the field stays.
