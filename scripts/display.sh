@@ -21,13 +21,10 @@ start_display() {
 }
 
 # Wine's programs go first: they complain when they lose their screen. They also have to go when there was none: the next
-# command would join them and be without windows. They stay while another command uses the prefix.
+# command would join them and be without windows.
 clean_up() {
-    if flock --exclusive --nonblock "$prefix_lock"; then
-        scripts/run-wine --stop
-        if [[ ${x86_root:-} ]]; then scripts/run-wine --x86 --stop; fi
-        flock --shared "$prefix_lock" # The shell may only have been a part of the command.
-    fi
+    if [[ ${prefix_lock:-} ]]; then scripts/run-wine --stop; fi
+    if [[ ${x86_root:-} ]]; then scripts/run-wine --x86 --stop; fi
     if [[ ${display_pid:-} ]]; then kill "$display_pid" && wait "$display_pid"; fi 2>/dev/null
     return 0
 }

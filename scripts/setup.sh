@@ -5,9 +5,6 @@ cd "$root"
 mkdir -p build
 source scripts/display.sh
 
-# Every running command shares this lock; the last one may end what runs in the Wine prefix.
-exec {prefix_lock}>build/wine.lock
-flock --shared "$prefix_lock"
 trap clean_up EXIT
 
 build_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix)
@@ -44,22 +41,60 @@ set_up_prefix() { # COMMAND...: what runs Wine
         timeout 60 "$@" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
 }
 
-make_prefix() {
+# A command has a prefix to itself until it ends: build/wine, or the first of build/wine-2, -3, ... that nobody uses.
+# The programs of one prefix all go when the screen goes on which the first of them came up. What the command starts
+# keeps the lock open as well, so that a prefix is not free as long as anything runs in it.
+take_prefix() {
+    local number
+    for ((number = 1; ; ++number)); do
+        prefix=build/wine
+        ((number == 1)) || prefix+=-$number
+        exec {prefix_lock}>"$prefix.lock"
+        flock --exclusive --nonblock "$prefix_lock" && break
+        exec {prefix_lock}>&-
+    done
+    export EFFECT_SETTINGS_PREFIX=$root/$prefix
+}
+
+is_ready() { # PREFIX
     # Looked at, not tried out: a Wine that is started without a screen would have no windows later.
-    [[ -f build/wine/.ready && -f build/wine/drive_c/windows/system32/kernel32.dll ]] &&
-        grep -q 'Liberation Sans' build/wine/user.reg && return
-    say "Making the Wine prefix build/wine (log: build/wine.log)"
+    [[ -f $1/.ready && -f $1/drive_c/windows/system32/kernel32.dll ]] && grep -q 'Liberation Sans' "$1/user.reg"
+}
+
+make_prefix() {
+    take_prefix
+    ! is_ready "$prefix" || return 0
+    if is_ready build/wine; then
+        # Wine never writes into its own programs, but it does into its registry.
+        rm -rf "$prefix"
+        cp --archive --link build/wine "$prefix"
+        cp --archive --remove-destination build/wine/*.reg "$prefix"
+        return
+    fi
+    say "Making the Wine prefix $prefix (log: $prefix.log)"
     (
         start_display
         set_up_prefix scripts/run-wine || {
             echo "Starting afresh."
-            rm -rf build/wine
+            rm -rf "$prefix"
             set_up_prefix scripts/run-wine
         }
-    ) >build/wine.log 2>&1 </dev/null || {
-        tail -n 20 build/wine.log >&2
+    ) >"$prefix.log" 2>&1 </dev/null || {
+        tail -n 20 "$prefix.log" >&2
         echo "Could not make the Wine prefix." >&2
         return 1
     }
-    touch build/wine/.ready
+    touch "$prefix/.ready"
+}
+
+# Configures and builds; commands that run at the same time take turns.
+build() { # PRESET [ARGUMENT OF cmake --build...]
+    (
+        flock 9
+        cmake --preset "$1" >build/configure.log || {
+            cat build/configure.log >&2
+            exit 1
+        }
+        cmake --build --preset "$@"
+    ) 9>build/build.lock
 }

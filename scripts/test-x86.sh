@@ -8,8 +8,12 @@ x86_root=$root/build/x86-root
 # In a mount namespace of its own, nothing stays mounted, and deleting build/ never reaches into the mounts.
 if [[ ! ${EFFECT_SETTINGS_UNSHARED:-} ]]; then
     export EFFECT_SETTINGS_UNSHARED=1
+    exec {prefix_lock}>&- # The same command takes its prefix again.
     exec unshare --mount "$root/test" --x86 "$@"
 fi
+
+exec {x86_lock}>build/x86-root.lock
+flock "$x86_lock" # There is one prefix in it.
 
 if [[ ! -f $x86_root/.ready ]]; then
     install_packages debootstrap
