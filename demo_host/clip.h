@@ -1,22 +1,12 @@
 // What the demo host plays: a generated scene, or a picture from a file.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include <windows.h>
 
-/// A picture, top row first, one 0x00RRGGBB word per pixel.
-struct Frame {
-    Frame() = default;
-    Frame(int w, int h) : width(w), height(h), pixels(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)) {}
-
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint32_t> pixels;
-};
+#include "demo_host/filters/frame.h"
 
 class IClip {
 public:

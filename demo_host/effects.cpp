@@ -255,6 +255,10 @@ const std::vector<Effect>& AllEffects() {
     return effects;
 }
 
+const Effect& EffectOf(EffectId id) {
+    return AllEffects().at(static_cast<std::size_t>(static_cast<std::int32_t>(id) - kFirstEffectId));
+}
+
 const Effect* FindEffect(const std::wstring& nameOrNumber) {
     for (const Effect& effect : AllEffects()) {
         const std::string name = effect.name;

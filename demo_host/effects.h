@@ -26,5 +26,6 @@ struct Effect {
 
 /// In the order of their numbers.
 const std::vector<Effect>& AllEffects();
+const Effect& EffectOf(EffectId id);
 /// By name or number; null when there is none.
 const Effect* FindEffect(const std::wstring& nameOrNumber);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "demo_host/effects.h"
 #include "demo_host/trace.h"
 
 namespace {
@@ -63,7 +64,7 @@ HRESULT Give(CProcessorList* list, IProcessorList** given) {
 
 CPlayer::CPlayer(std::unique_ptr<IClip> clip) : m_clip(std::move(clip)) {
     for (const Effect& effect : AllEffects()) {
-        (effect.IsAudio() ? m_allAudio : m_allVideo)->Append(MakeProcessor(effect));
+        (effect.IsAudio() ? m_allAudio : m_allVideo)->Append(MakeFilter(effect.id, Trace));
     }
     m_frame = m_clip->FrameAt(0);
 }
@@ -119,8 +120,9 @@ LRESULT CALLBACK CPlayer::WindowProc(HWND window, UINT message, WPARAM wParam, L
 }
 
 void CPlayer::PlayFrame() {
-    m_frame = m_clip->FrameAt(::GetTickCount() - m_started);
-    for (const auto& processor : m_activeVideo->Processors()) processor->Process(m_frame);
+    const DWORD milliseconds = ::GetTickCount() - m_started;
+    m_frame = m_clip->FrameAt(milliseconds);
+    for (const auto& processor : m_activeVideo->Processors()) processor->Process(m_frame, milliseconds / kFrameMs);
     DrawFrame(m_window, m_frame);
     if (m_previewing) ++m_previewedFrames;
     if (m_previewing && m_showPicture && m_previewWindow) DrawFrame(m_previewWindow, m_frame);
@@ -142,6 +144,7 @@ HRESULT CPlayer::StopPreview() {
 HRESULT CPlayer::ResetPreview() {
     Trace("host.ResetPreview()");
     m_started = ::GetTickCount();
+    for (const auto& processor : m_activeVideo->Processors()) processor->Restart();
     return S_OK;
 }
 

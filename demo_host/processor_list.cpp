@@ -1,5 +1,6 @@
 #include "demo_host/processor_list.h"
 
+#include "demo_host/effects.h"
 #include "demo_host/trace.h"
 
 HRESULT CProcessorList::GetItem(LONG index, IUnknown** item) {
@@ -18,7 +19,7 @@ HRESULT CProcessorList::FindByMoniker(BSTR moniker, LONG* index) {
         if (effect.Moniker() == moniker) found = effect.name;
     }
     for (std::size_t place = 0; place < m_processors.size(); ++place) {
-        if (m_processors[place]->EffectOf().name == found) *index = static_cast<LONG>(place);
+        if (EffectOf(m_processors[place]->Effect()).name == found) *index = static_cast<LONG>(place);
     }
     Trace(m_name + ".FindByMoniker(" + found + ") -> " + std::to_string(*index));
     return S_OK;
@@ -32,11 +33,11 @@ HRESULT CProcessorList::RemoveAt(LONG index) {
 }
 
 HRESULT CProcessorList::Add(IUnknown* item, LONG option) {
-    ComPtr<IDemoProcessor> processor;
-    if (!item || FAILED(item->QueryInterface(IID_IDemoProcessor, reinterpret_cast<void**>(processor.GetAddressOf())))) {
+    ComPtr<IDemoFilter> processor;
+    if (!item || FAILED(item->QueryInterface(IID_IDemoFilter, reinterpret_cast<void**>(processor.GetAddressOf())))) {
         return E_INVALIDARG;
     }
-    Trace(m_name + ".Add(" + processor->EffectOf().name + ", " + std::to_string(option) + ")");
+    Trace(m_name + ".Add(" + EffectOf(processor->Effect()).name + ", " + std::to_string(option) + ")");
     m_processors.push_back(processor);
     return S_OK;
 }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "demo_host/com_object.h"
-#include "demo_host/filters.h"
+#include "demo_host/filters/filter.h"
 #include "effect_settings/media_host.h"
 
 class CProcessorList : public CComObject<IProcessorList> {
@@ -21,12 +21,12 @@ public:
     HRESULT STDMETHODCALLTYPE RemoveAt(LONG index) override;
     HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) override;
 
-    void Append(ComPtr<IDemoProcessor> processor) { m_processors.push_back(std::move(processor)); }
-    const std::vector<ComPtr<IDemoProcessor>>& Processors() const { return m_processors; }
+    void Append(ComPtr<IDemoFilter> processor) { m_processors.push_back(std::move(processor)); }
+    const std::vector<ComPtr<IDemoFilter>>& Processors() const { return m_processors; }
 
 private:
     bool Holds(LONG index) const { return index >= 0 && static_cast<std::size_t>(index) < m_processors.size(); }
 
     std::string m_name;
-    std::vector<ComPtr<IDemoProcessor>> m_processors;
+    std::vector<ComPtr<IDemoFilter>> m_processors;
 };

@@ -25,7 +25,7 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) override {
-        Record("Add(" + std::string(item == m_host.m_filter.get() ? "filter" : "?") + ", " + std::to_string(option) +
+        Record("Add(" + std::string(item == m_host.m_filter.Get() ? "filter" : "?") + ", " + std::to_string(option) +
                ")");
         item->AddRef();
         items.push_back(item);
@@ -41,16 +41,6 @@ private:
 
 namespace {
 
-using FilterOwner = std::unique_ptr<IUnknown, void (*)(IUnknown*)>;
-
-FilterOwner MakeFilterFor(EffectId effect, Trace& trace, const bool& hasInterface) {
-    return MakeForEffect(effect, [&]<template <typename> typename Recorder, typename Properties, const IID & Id>() {
-        using Filter = Recorder<RecordingFilter<Properties, Id>>;
-        const auto destroy = [](IUnknown* filter) { delete static_cast<Filter*>(filter); };
-        return FilterOwner(new Filter(trace, hasInterface), destroy);
-    });
-}
-
 /// References beyond the owner's.
 ULONG OpenReferencesOf(IUnknown* object) {
     object->AddRef();
@@ -61,20 +51,20 @@ ULONG OpenReferencesOf(IUnknown* object) {
 
 RecordingHost::RecordingHost(EffectId effect, HostOptions options)
     : m_options(options),
-      m_filter(MakeFilterFor(effect, m_trace, m_options.filterHasInterface)),
+      m_filter(MakeFilter(effect, [this](const std::string& line) { m_trace.Add(line); })),
       m_all(std::make_unique<List>(*this, "all")),
       m_active(std::make_unique<List>(*this, "active")) {
-    if (m_options.hasFilters) m_all->items.push_back(m_filter.get());
+    if (m_options.hasFilters) m_all->items.push_back(m_filter.Get());
     if (m_options.isActiveAlready) {
         m_filter->AddRef();
-        m_active->items.push_back(m_filter.get());
+        m_active->items.push_back(m_filter.Get());
     }
 }
 
 RecordingHost::~RecordingHost() = default;
 
 ULONG RecordingHost::OpenReferences() const {
-    return References() + m_all->References() + m_active->References() + OpenReferencesOf(m_filter.get()) -
+    return References() + m_all->References() + m_active->References() + OpenReferencesOf(m_filter.Get()) -
            static_cast<ULONG>(m_active->items.size());
 }
 
@@ -151,7 +141,7 @@ HRESULT RecordingHost::GetProcessorObject(LONG kind, IUnknown** object) {
     m_trace.Add("host.GetProcessorObject(" + std::to_string(kind) + ")");
     *object = nullptr;
     if (!m_options.givesProcessor) return E_FAIL;
-    *object = m_filter.get();
+    *object = m_options.filterHasInterface ? static_cast<IUnknown*>(m_filter.Get()) : m_all.get();
     (*object)->AddRef();
     return S_OK;
 }

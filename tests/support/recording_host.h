@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "demo_host/filter_recorders.h"
+#include "demo_host/filters/filter.h"
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/effect_settings.h"
 #include "effect_settings/media_host.h"
@@ -16,7 +16,7 @@ template <typename Interface>
 class Counted : public Interface {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        const bool known = iid == IID_IUnknown || Knows(iid);
+        const bool known = iid == IID_IUnknown;
         *object = known ? this : nullptr;
         if (known) ++m_references;
         return known ? S_OK : E_NOINTERFACE;
@@ -29,34 +29,14 @@ public:
 
 protected:
     virtual ~Counted() = default;
-    virtual bool Knows(REFIID) const { return false; }
 
 private:
     ULONG m_references = 1;
 };
 
-/// A filter that answers for one property interface, or for none when it was told so.
-template <typename Interface, const IID& Id>
-class RecordingFilter : public Counted<Interface> {
-public:
-    explicit RecordingFilter(Trace& trace, const bool& hasInterface) : m_trace(trace), m_hasInterface(hasInterface) {}
-
-protected:
-    bool Knows(REFIID iid) const override { return m_hasInterface && iid == Id; }
-    template <typename... Values>
-    HRESULT Record(const char* call, Values... values) {
-        m_trace.Add("filter." + CallText(call, values...));
-        return S_OK;
-    }
-
-private:
-    Trace& m_trace;
-    const bool& m_hasInterface;
-};
-
 struct HostOptions {
     bool hasFilters = true;          ///< The catalogue holds the effects' filters.
-    bool filterHasInterface = true;  ///< They answer for their property interface.
+    bool filterHasInterface = true;  ///< The object that the host gives answers for the property interface.
     bool givesAllList = true;
     bool givesActiveList = true;
     bool givesProcessor = true;
@@ -98,8 +78,7 @@ private:
 
     Trace m_trace;
     HostOptions m_options;
-    std::unique_ptr<IUnknown, void (*)(IUnknown*)> m_filter;
-    ULONG (*m_filterReferences)(IUnknown*);
+    ComPtr<IDemoFilter> m_filter;
     std::unique_ptr<List> m_all;
     std::unique_ptr<List> m_active;
     std::wstring m_lastMoniker;
