@@ -15,7 +15,13 @@ struct Immortal : Interface {
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
 };
 
+/// Of Gamma Correction. The other effects' dialogs find that it is none of theirs, and push nothing.
 struct StubFilter : Immortal<IEffectGammaCorrection> {
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        const bool known = id == IID_IUnknown || id == IID_IEffectGammaCorrection;
+        *object = known ? this : nullptr;
+        return known ? S_OK : E_NOINTERFACE;
+    }
     HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams params) override {
         last = params;
         ++pushes;
