@@ -1,10 +1,10 @@
 // The module: its object, its window classes, message boxes.
 #include <cstdint>
-#include <mutex>
 #include <set>
 #include <string>
 
 #include "afxwin.h"
+#include "thread_state.h"
 
 extern "C" IMAGE_DOS_HEADER __ImageBase;
 
@@ -13,7 +13,7 @@ namespace {
 CWinApp* g_theApp = nullptr;
 
 struct ClassNames {
-    std::mutex mutex;
+    SRWLOCK lock = SRWLOCK_INIT;
     std::set<std::wstring> names;
 };
 
@@ -51,9 +51,10 @@ LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
         name += L':' + std::to_wstring(part);
     }
     ClassNames& classes = RegisteredClasses();
-    const std::lock_guard lock(classes.mutex);
-    const auto known = classes.names.find(name);
-    if (known != classes.names.end()) return known->c_str();
+    const afx::Lock lock(classes.lock);
+    // Noted before it is registered: a class that nobody knew of could never be registered again.
+    const auto [known, isNew] = classes.names.insert(name);
+    if (!isNew) return known->c_str();
     WNDCLASSW windowClass{};
     windowClass.style = style;
     windowClass.lpfnWndProc = ::DefWindowProcW;
@@ -62,15 +63,17 @@ LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
     windowClass.hCursor = cursor;
     windowClass.hbrBackground = background;
     windowClass.lpszClassName = name.c_str();
-    if (!::RegisterClassW(&windowClass)) return nullptr;
-    return classes.names.insert(name).first->c_str();
+    // One that is there already was left by a module that lay at the same address.
+    if (::RegisterClassW(&windowClass) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS) return known->c_str();
+    classes.names.erase(known);
+    return nullptr;
 }
 
 namespace afx {
 
 void UnregisterClasses() {
     ClassNames& classes = RegisteredClasses();
-    const std::lock_guard lock(classes.mutex);
+    const afx::Lock lock(classes.lock);
     for (const std::wstring& name : classes.names) ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle());
     classes.names.clear();
 }

@@ -1,11 +1,11 @@
 // CWnd: objects and their windows, message dispatch.
 #include <cstdarg>
-#include <mutex>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "afxwin.h"
+#include "thread_state.h"
 
 namespace {
 
@@ -13,21 +13,21 @@ namespace {
 class WindowMap {
 public:
     CWnd* Find(HWND window) {
-        const std::lock_guard lock(m_mutex);
+        const afx::Lock lock(m_lock);
         const auto found = m_objects.find(window);
         return found == m_objects.end() ? nullptr : found->second;
     }
     void Insert(HWND window, CWnd* object) {
-        const std::lock_guard lock(m_mutex);
+        const afx::Lock lock(m_lock);
         m_objects[window] = object;
     }
     void Erase(HWND window) {
-        const std::lock_guard lock(m_mutex);
+        const afx::Lock lock(m_lock);
         m_objects.erase(window);
     }
 
 private:
-    std::mutex m_mutex;
+    SRWLOCK m_lock = SRWLOCK_INIT;
     std::unordered_map<HWND, CWnd*> m_objects;
 };
 
@@ -35,10 +35,6 @@ WindowMap& Windows() {
     static WindowMap windows;
     return windows;
 }
-
-// Nothing thread-local has a destructor: such a one would keep the library loaded until the thread ends.
-thread_local afx::CreationHook* t_creationHook = nullptr;
-thread_local MSG t_currentMessage{};
 
 /// What a window answers when its object threw: creation fails, painting counts as done, the rest as handled.
 LRESULT ResultAfterException(HWND window, UINT message) {
@@ -72,17 +68,17 @@ namespace afx {
 
 CreationHook::CreationHook(CWnd& window)
     : m_waiting(&window),
-      m_outer(std::exchange(t_creationHook, this)),
+      m_outer(std::exchange(CurrentThread().creationHook, this)),
       m_hook(::SetWindowsHookExW(WH_CBT, &HookProc, nullptr, ::GetCurrentThreadId())) {}
 
 CreationHook::~CreationHook() {
     if (m_hook) ::UnhookWindowsHookEx(m_hook);
-    t_creationHook = m_outer;
+    CurrentThread().creationHook = m_outer;
 }
 
 LRESULT CALLBACK CreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam) {
     const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
-    CreationHook& hook = *t_creationHook;
+    CreationHook& hook = *CurrentThread().creationHook;
     const auto window = reinterpret_cast<HWND>(wParam);
     // The system may create an input method's window first.
     if (code != HCBT_CREATEWND || refused || !hook.m_waiting || IsImeWindow(window)) return refused;
@@ -186,14 +182,15 @@ BOOL CWnd::DestroyWindow() { return m_hWnd ? ::DestroyWindow(m_hWnd) : FALSE; }
 LRESULT CALLBACK CWnd::ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* object = FromHandlePermanent(window);
     if (!object) return ::DefWindowProcW(window, message, wParam, lParam);
-    const MSG outer = std::exchange(t_currentMessage, MSG{window, message, wParam, lParam, 0, {0, 0}});
+    const MSG current{window, message, wParam, lParam, 0, {0, 0}};
+    const MSG* outer = std::exchange(afx::CurrentThread().currentMessage, &current);
     LRESULT result = 0;
     try {
         result = object->WindowProc(message, wParam, lParam);
     } catch (...) {
         result = ResultAfterException(window, message);
     }
-    t_currentMessage = outer;
+    afx::CurrentThread().currentMessage = outer;
     if (message != WM_NCDESTROY) return result;
     // Looked up again, for a handler may have deleted the object.
     object = FromHandlePermanent(window);
@@ -218,7 +215,8 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CWnd::Default() {
-    return DefWindowProc(t_currentMessage.message, t_currentMessage.wParam, t_currentMessage.lParam);
+    const MSG* current = afx::CurrentThread().currentMessage;
+    return current ? DefWindowProc(current->message, current->wParam, current->lParam) : 0;
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
