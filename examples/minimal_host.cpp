@@ -4,16 +4,18 @@
 #include "effect_settings/effect_settings.h"
 #include "effect_settings/media_host.h"
 
-IMediaHost* CreatePlayer() { return nullptr; }  // Your player object; null opens the dialog without a preview.
+using namespace effect_settings;
+
+// Your player object. Without one a message box says that there is no filter; the dialog then works without a preview.
+IMediaHost* CreatePlayer() { return nullptr; }
 
 int main() {
-    IMediaHost* player = CreatePlayer();
-    GammaCorrectionSettings gamma{.enabled = 1, .value = 100};
-    const std::int32_t result = ShowSettingsDialog(&player, EffectId::GammaCorrection, 640, 480, 640, 480, &gamma);
-    if (result == kSettingsAccepted) {
+    GammaCorrectionSettings gamma;  // Holds the effect's defaults, and picks the dialog.
+    const Result result = ShowSettings(CreatePlayer(), VideoSize{640, 480}, FrameSize{640, 480}, gamma);
+    if (result == Result::Accepted) {
         std::printf("gamma factor %d, %s\n", gamma.value, gamma.enabled ? "on" : "off");
     } else {
         std::puts("nothing changed");
     }
-    return result == kSettingsNotCreated ? 1 : 0;
+    return result == Result::NotCreated ? 1 : 0;
 }

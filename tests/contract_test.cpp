@@ -413,4 +413,39 @@ TEST(Contract, WhatCannotBeShownGivesZeroAndTouchesNothing) {
     EXPECT_TRUE(host.Calls().Take().empty());
 }
 
+// --- the typed call ---
+
+template <typename Record, typename First = effect_settings::VideoSize, typename Second = effect_settings::FrameSize>
+concept CanBeShown = requires(IMediaHost* host, First first, Second second, Record& record) {
+    effect_settings::ShowSettings(host, first, second, record);
+};
+static_assert(CanBeShown<GammaCorrectionSettings>);
+static_assert(!CanBeShown<const GammaCorrectionSettings>);
+static_assert(!CanBeShown<GammaParams>);
+static_assert(!CanBeShown<std::int32_t[25]>);
+static_assert(!CanBeShown<GammaCorrectionSettings, effect_settings::FrameSize, effect_settings::VideoSize>);
+
+std::vector<std::int32_t> g_shown;
+std::int32_t WINAPI NoteCall(IMediaHost** host, EffectId effect, std::int32_t videoWidth, std::int32_t videoHeight,
+                             std::int32_t frameWidth, std::int32_t frameHeight, EffectSettingsRecord* record) {
+    g_shown = {static_cast<std::int32_t>(effect),
+               videoWidth,
+               videoHeight,
+               frameWidth,
+               frameHeight,
+               static_cast<WaveSettings*>(record)->threshold};
+    return *host ? kSettingsAccepted : kSettingsCancelled;
+}
+
+TEST(TypedCall, HandsOverWhatItWasGivenWithTheRecordsEffect) {
+    using namespace effect_settings;
+    RecordingHost host(EffectId::Wave);
+    WaveSettings wave;
+    wave.threshold = 33;
+    EXPECT_EQ(ShowSettings(&host, VideoSize{1, 2}, FrameSize{3, 4}, wave, &NoteCall), Result::Accepted);
+    EXPECT_EQ(g_shown, (std::vector<std::int32_t>{24, 1, 2, 3, 4, 33}));
+    EXPECT_EQ(ShowSettings(nullptr, VideoSize{5, 6}, FrameSize{7, 8}, wave, &NoteCall), Result::Cancelled);
+    EXPECT_EQ(g_shown, (std::vector<std::int32_t>{24, 5, 6, 7, 8, 33}));
+}
+
 }  // namespace

@@ -1,5 +1,5 @@
 // What a filter implements: the class and interface ids of the thirty effects, their property
-// interfaces and the structures that these take. Compiles alone, in C++17 and later.
+// interfaces and the structures that these take. Compiles alone, as C++11 and later.
 #ifndef EFFECT_SETTINGS_EFFECT_FILTERS_H
 #define EFFECT_SETTINGS_EFFECT_FILTERS_H
 
@@ -17,18 +17,35 @@
 // one more push with all values, so a setter must be cheap and may be called with the value that it
 // already has. When the dialog closes, the filter leaves the chain and the interface is released.
 //
+// A push calls its setters one after the other, in the order that each interface names. The last of
+// them ends the push: a filter that takes its values over together does so there. Edges of an area
+// count as one step of that order, "area edges": right, bottom, left, top. When the user's rectangle
+// is not usable (empty, or over the right or bottom edge of the video) they come as 0, 0, 1, 1 in
+// the order left, top, right, bottom, except where an interface says something else.
+//
+// Values are whole numbers in the units that each setter names; those without a unit are plain
+// levels. Sliders keep them in the range given here. "Frame pixels" are pixels of the frames that
+// the filter processes, converted from pixels of the source video and truncated toward zero (what
+// does not fit gives -2147483648); all other pixels are sent as the user set them.
+//
 // Every call comes on the host's user-interface thread; a filter that processes frames on another
 // thread guards its values itself. The results of setters are not looked at. Slots are places in the
 // interface's function table, counted from 0; the library calls only the named ones, and a class
 // that implements the interface may leave the reserved ones as they stand here.
 
+#ifdef __cpp_inline_variables
+#define EFFECT_SETTINGS_CONSTANT inline constexpr
+#else
+#define EFFECT_SETTINGS_CONSTANT constexpr
+#endif
+
 #define EFFECT_SETTINGS_RESERVED_SLOT(slot) \
     virtual HRESULT STDMETHODCALLTYPE Reserved##slot() { return E_NOTIMPL; }
 
 /// The device categories in the filters' monikers.
-inline constexpr GUID CATID_EffectVideoProcessor = {
+EFFECT_SETTINGS_CONSTANT GUID CATID_EffectVideoProcessor = {
     0xE526D606, 0x22E7, 0x494C, {0xB8, 0x1E, 0xAC, 0x0A, 0x94, 0xBF, 0xE6, 0x03}};
-inline constexpr GUID CATID_EffectAudioProcessor = {
+EFFECT_SETTINGS_CONSTANT GUID CATID_EffectAudioProcessor = {
     0x5FFE757A, 0x509A, 0x477E, {0xA1, 0xF1, 0x68, 0x81, 0x20, 0x10, 0xA6, 0xDD}};
 
 /// All class and interface ids of the effects differ in their first group only.
@@ -37,67 +54,67 @@ constexpr GUID MakeEffectGuid(std::uint32_t firstGroup) {
 }
 
 // The filters' class ids and the ids of their property interfaces, in the order of EffectId.
-inline constexpr CLSID CLSID_EffectAutoContrast = MakeEffectGuid(0xE2B7DD0E);
-inline constexpr IID IID_IEffectAutoContrast = MakeEffectGuid(0xE2B7DD10);
-inline constexpr CLSID CLSID_EffectAutoIntensity = MakeEffectGuid(0xE2B7DD13);
-inline constexpr IID IID_IEffectAutoIntensity = MakeEffectGuid(0xE2B7DD15);
-inline constexpr CLSID CLSID_EffectAutoLevel = MakeEffectGuid(0xE2B7DD09);
-inline constexpr IID IID_IEffectAutoLevel = MakeEffectGuid(0xE2B7DD0B);
-inline constexpr CLSID CLSID_EffectBrightness = MakeEffectGuid(0xE2B7DD1D);
-inline constexpr IID IID_IEffectBrightness = MakeEffectGuid(0xE2B7DD20);
-inline constexpr CLSID CLSID_EffectColor = MakeEffectGuid(0xE2B7DB10);
-inline constexpr IID IID_IEffectColor = MakeEffectGuid(0xE2B7DB12);
-inline constexpr CLSID CLSID_EffectDeblocking = MakeEffectGuid(0xE2B7DBF1);
-inline constexpr IID IID_IEffectDeblocking = MakeEffectGuid(0xE2B7DBF4);
-inline constexpr CLSID CLSID_EffectEdgeEnhance = MakeEffectGuid(0xE2B7DBEB);
-inline constexpr IID IID_IEffectEdgeEnhance = MakeEffectGuid(0xE2B7DBEF);
-inline constexpr CLSID CLSID_EffectAging = MakeEffectGuid(0xE2B7DC2A);
-inline constexpr IID IID_IEffectAging = MakeEffectGuid(0xE2B7DC2D);
-inline constexpr CLSID CLSID_EffectBumpMap = MakeEffectGuid(0xE2B7DC42);
-inline constexpr IID IID_IEffectBumpMap = MakeEffectGuid(0xE2B7DC45);
-inline constexpr CLSID CLSID_EffectDizzy = MakeEffectGuid(0xE2B7DC32);
-inline constexpr IID IID_IEffectDizzy = MakeEffectGuid(0xE2B7DC35);
-inline constexpr CLSID CLSID_EffectFire = MakeEffectGuid(0xE2B7DBFF);
-inline constexpr IID IID_IEffectFire = MakeEffectGuid(0xE2B7DC02);
-inline constexpr CLSID CLSID_EffectGlassTile = MakeEffectGuid(0xE2B7DC36);
-inline constexpr IID IID_IEffectGlassTile = MakeEffectGuid(0xE2B7DC39);
-inline constexpr CLSID CLSID_EffectHologram = MakeEffectGuid(0xE2B7DC03);
-inline constexpr IID IID_IEffectHologram = MakeEffectGuid(0xE2B7DC06);
-inline constexpr CLSID CLSID_EffectLens = MakeEffectGuid(0xE2B7DC3A);
-inline constexpr IID IID_IEffectLens = MakeEffectGuid(0xE2B7DC3D);
-inline constexpr CLSID CLSID_EffectLightning = MakeEffectGuid(0xE2B7DC17);
-inline constexpr IID IID_IEffectLightning = MakeEffectGuid(0xE2B7DC1A);
-inline constexpr CLSID CLSID_EffectMaze = MakeEffectGuid(0xE2B7DC3E);
-inline constexpr IID IID_IEffectMaze = MakeEffectGuid(0xE2B7DC41);
-inline constexpr CLSID CLSID_EffectMotionBlur = MakeEffectGuid(0xE2B7DC0F);
-inline constexpr IID IID_IEffectMotionBlur =
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAutoContrast = MakeEffectGuid(0xE2B7DD0E);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectAutoContrast = MakeEffectGuid(0xE2B7DD10);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAutoIntensity = MakeEffectGuid(0xE2B7DD13);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectAutoIntensity = MakeEffectGuid(0xE2B7DD15);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAutoLevel = MakeEffectGuid(0xE2B7DD09);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectAutoLevel = MakeEffectGuid(0xE2B7DD0B);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectBrightness = MakeEffectGuid(0xE2B7DD1D);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectBrightness = MakeEffectGuid(0xE2B7DD20);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectColor = MakeEffectGuid(0xE2B7DB10);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectColor = MakeEffectGuid(0xE2B7DB12);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectDeblocking = MakeEffectGuid(0xE2B7DBF1);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectDeblocking = MakeEffectGuid(0xE2B7DBF4);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectEdgeEnhance = MakeEffectGuid(0xE2B7DBEB);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectEdgeEnhance = MakeEffectGuid(0xE2B7DBEF);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAging = MakeEffectGuid(0xE2B7DC2A);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectAging = MakeEffectGuid(0xE2B7DC2D);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectBumpMap = MakeEffectGuid(0xE2B7DC42);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectBumpMap = MakeEffectGuid(0xE2B7DC45);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectDizzy = MakeEffectGuid(0xE2B7DC32);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectDizzy = MakeEffectGuid(0xE2B7DC35);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectFire = MakeEffectGuid(0xE2B7DBFF);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectFire = MakeEffectGuid(0xE2B7DC02);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectGlassTile = MakeEffectGuid(0xE2B7DC36);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectGlassTile = MakeEffectGuid(0xE2B7DC39);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectHologram = MakeEffectGuid(0xE2B7DC03);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectHologram = MakeEffectGuid(0xE2B7DC06);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectLens = MakeEffectGuid(0xE2B7DC3A);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectLens = MakeEffectGuid(0xE2B7DC3D);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectLightning = MakeEffectGuid(0xE2B7DC17);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectLightning = MakeEffectGuid(0xE2B7DC1A);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMaze = MakeEffectGuid(0xE2B7DC3E);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMaze = MakeEffectGuid(0xE2B7DC41);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMotionBlur = MakeEffectGuid(0xE2B7DC0F);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMotionBlur =
     MakeEffectGuid(0xE2B7DD30);  // Out of its neighbours' numbering, on purpose.
-inline constexpr CLSID CLSID_EffectMotionEmboss = MakeEffectGuid(0xE2B7DC1B);
-inline constexpr IID IID_IEffectMotionEmboss = MakeEffectGuid(0xE2B7DC1E);
-inline constexpr CLSID CLSID_EffectMotionMosaic = MakeEffectGuid(0xE2B7DC0B);
-inline constexpr IID IID_IEffectMotionMosaic = MakeEffectGuid(0xE2B7DC0E);
-inline constexpr CLSID CLSID_EffectMotionScan = MakeEffectGuid(0xE2B7DBF7);
-inline constexpr IID IID_IEffectMotionScan = MakeEffectGuid(0xE2B7DBFA);
-inline constexpr CLSID CLSID_EffectParticles = MakeEffectGuid(0xE2B7DC07);
-inline constexpr IID IID_IEffectParticles = MakeEffectGuid(0xE2B7DC0A);
-inline constexpr CLSID CLSID_EffectRain = MakeEffectGuid(0xE2B7DC2E);
-inline constexpr IID IID_IEffectRain = MakeEffectGuid(0xE2B7DC31);
-inline constexpr CLSID CLSID_EffectStreak = MakeEffectGuid(0xE2B7DBFB);
-inline constexpr IID IID_IEffectStreak = MakeEffectGuid(0xE2B7DBFE);
-inline constexpr CLSID CLSID_EffectWave = MakeEffectGuid(0xE2B7DC13);
-inline constexpr IID IID_IEffectWave = MakeEffectGuid(0xE2B7DC16);
-inline constexpr CLSID CLSID_EffectEmboss = MakeEffectGuid(0xE2B7DB17);
-inline constexpr IID IID_IEffectEmboss = MakeEffectGuid(0xE2B7DB18);
-inline constexpr CLSID CLSID_EffectGammaCorrection = MakeEffectGuid(0xE2B7DB14);
-inline constexpr IID IID_IEffectGammaCorrection = MakeEffectGuid(0xE2B7DB15);
-inline constexpr CLSID CLSID_EffectMosaic = MakeEffectGuid(0xE2B7DB28);
-inline constexpr IID IID_IEffectMosaic = MakeEffectGuid(0xE2B7DB29);
-inline constexpr CLSID CLSID_EffectUnsharpMask = MakeEffectGuid(0xE2B7DE21);
-inline constexpr IID IID_IEffectUnsharpMask = MakeEffectGuid(0xE2B7DE24);
-inline constexpr CLSID CLSID_EffectVideoRotation = MakeEffectGuid(0xE2B7DE1C);
-inline constexpr IID IID_IEffectVideoRotation = MakeEffectGuid(0xE2B7DE1D);
-inline constexpr CLSID CLSID_EffectAudioChorus = MakeEffectGuid(0xE2B7DB38);
-inline constexpr IID IID_IEffectAudioChorus = MakeEffectGuid(0xE2B7DB39);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMotionEmboss = MakeEffectGuid(0xE2B7DC1B);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMotionEmboss = MakeEffectGuid(0xE2B7DC1E);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMotionMosaic = MakeEffectGuid(0xE2B7DC0B);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMotionMosaic = MakeEffectGuid(0xE2B7DC0E);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMotionScan = MakeEffectGuid(0xE2B7DBF7);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMotionScan = MakeEffectGuid(0xE2B7DBFA);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectParticles = MakeEffectGuid(0xE2B7DC07);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectParticles = MakeEffectGuid(0xE2B7DC0A);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectRain = MakeEffectGuid(0xE2B7DC2E);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectRain = MakeEffectGuid(0xE2B7DC31);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectStreak = MakeEffectGuid(0xE2B7DBFB);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectStreak = MakeEffectGuid(0xE2B7DBFE);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectWave = MakeEffectGuid(0xE2B7DC13);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectWave = MakeEffectGuid(0xE2B7DC16);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectEmboss = MakeEffectGuid(0xE2B7DB17);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectEmboss = MakeEffectGuid(0xE2B7DB18);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectGammaCorrection = MakeEffectGuid(0xE2B7DB14);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectGammaCorrection = MakeEffectGuid(0xE2B7DB15);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectMosaic = MakeEffectGuid(0xE2B7DB28);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectMosaic = MakeEffectGuid(0xE2B7DB29);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectUnsharpMask = MakeEffectGuid(0xE2B7DE21);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectUnsharpMask = MakeEffectGuid(0xE2B7DE24);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectVideoRotation = MakeEffectGuid(0xE2B7DE1C);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectVideoRotation = MakeEffectGuid(0xE2B7DE1D);
+EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAudioChorus = MakeEffectGuid(0xE2B7DB38);
+EFFECT_SETTINGS_CONSTANT IID IID_IEffectAudioChorus = MakeEffectGuid(0xE2B7DB39);
 
 /// The rectangle to which an effect is limited, as the filters get it that take structures: by value, in pixels of the
 /// processed frame, right and bottom just outside of the rectangle. Left and top may be negative, right and bottom are
@@ -110,7 +127,7 @@ struct AreaParams {
     std::int32_t enabled;      ///< 1 limits the effect to the rectangle, 0 applies it to whole frames.
     std::int32_t reserved[5];  ///< Always 0, 0, 1, 1, 0.
 };
-static_assert(sizeof(AreaParams) == 40);
+static_assert(sizeof(AreaParams) == 40, "AreaParams");
 
 /// What IEffectGammaCorrection takes, by value. Note the order: here the factor comes first.
 struct GammaParams {
@@ -119,7 +136,7 @@ struct GammaParams {
     std::int32_t reserved1;  ///< Always 0.
     std::int32_t reserved2;  ///< Always 0.
 };
-static_assert(sizeof(GammaParams) == 16);
+static_assert(sizeof(GammaParams) == 16, "GammaParams");
 
 /// Gamma Correction (EffectId 26), IID_IEffectGammaCorrection.
 struct IEffectGammaCorrection : IUnknown {
@@ -149,15 +166,13 @@ struct IEffectSwitch : IEffectDispatch {
     virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
 };
 
-/// The head of those that can be limited to a rectangle. Its edges come in pixels of the processed frame, right and
-/// bottom just outside of the rectangle; left and top may be negative. In a push that has no usable rectangle they are
-/// 0, 0, 1, 1, for some effects converted from source pixels to frame pixels.
+/// The head of those that can be limited to a rectangle, whose right and bottom edges lie just outside of it.
 struct IEffectAreaEdges : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10.
+    /// Slot 10. In frame pixels, as all four; may be negative.
     virtual HRESULT STDMETHODCALLTYPE put_AreaLeft(LONG left) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
-    /// Slot 12.
+    /// Slot 12. May be negative.
     virtual HRESULT STDMETHODCALLTYPE put_AreaTop(LONG top) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(13)
     /// Slot 14. At least 1.
@@ -175,15 +190,19 @@ struct IEffectArea : IEffectAreaEdges {
 };
 
 /// Auto Contrast (EffectId 1), IID_IEffectAutoContrast.
+/// One push: put_Enable.
 struct IEffectAutoContrast : IEffectSwitch {};
 
 /// Auto Intensity (EffectId 2), IID_IEffectAutoIntensity.
+/// One push: put_Enable.
 struct IEffectAutoIntensity : IEffectSwitch {};
 
 /// Auto Level (EffectId 3), IID_IEffectAutoLevel.
+/// One push: put_Enable.
 struct IEffectAutoLevel : IEffectSwitch {};
 
 /// Brightness (EffectId 4), IID_IEffectBrightness.
+/// One push: put_Enable, put_Threshold, put_Brightness, put_FirstFrameReference.
 struct IEffectBrightness : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -193,7 +212,7 @@ struct IEffectBrightness : IEffectSwitch {
     /// Slot 13. How much has to move to count, 1 to 100; lower detects more.
     virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(14)
-    /// Slot 15. Change of the brightness of what moves, -1000 to 1000.
+    /// Slot 15. Change of the brightness of what moves, -1000 (black) to 1000 (white).
     virtual HRESULT STDMETHODCALLTYPE put_Brightness(LONG brightness) = 0;
 };
 
@@ -207,9 +226,10 @@ struct ColorParams {
     std::int32_t invert;       ///< 1 inverts the colours.
     std::int32_t reserved[6];  ///< Always 1, 0, 0, 0, 0, 1.
 };
-static_assert(sizeof(ColorParams) == 48);
+static_assert(sizeof(ColorParams) == 48, "ColorParams");
 
-/// Color (EffectId 5), IID_IEffectColor. Each push calls both.
+/// Color (EffectId 5), IID_IEffectColor.
+/// One push: SetColorParams, SetAreaParams.
 struct IEffectColor : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -217,26 +237,28 @@ struct IEffectColor : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE SetColorParams(ColorParams params) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(6)
     EFFECT_SETTINGS_RESERVED_SLOT(7)
-    /// Slot 8.
+    /// Slot 8. The area; ends the push.
     virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
 };
 
 /// Deblocking (EffectId 6), IID_IEffectDeblocking.
+/// One push: put_Enable, put_Algorithm, put_BlockOffsetX, put_BlockOffsetY, put_BlockWidth, put_BlockHeight,
+/// put_EdgeThreshold.
 struct IEffectDeblocking : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. 0 filters two lines at a block's edge, 1 four.
     virtual HRESULT STDMETHODCALLTYPE put_Algorithm(LONG algorithm) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
-    /// Slot 12. In pixels of the processed frame.
+    /// Slot 12. In frame pixels. Not checked, as all four: 0 and any number below or above can come.
     virtual HRESULT STDMETHODCALLTYPE put_BlockWidth(LONG width) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(13)
-    /// Slot 14. In pixels of the processed frame.
+    /// Slot 14. In frame pixels, not checked.
     virtual HRESULT STDMETHODCALLTYPE put_BlockHeight(LONG height) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(15)
-    /// Slot 16. Where the grid of blocks starts, in pixels of the processed frame.
+    /// Slot 16. Where the grid of blocks starts, in frame pixels, not checked.
     virtual HRESULT STDMETHODCALLTYPE put_BlockOffsetX(LONG x) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(17)
-    /// Slot 18. Where the grid of blocks starts, in pixels of the processed frame.
+    /// Slot 18. Where the grid of blocks starts, in frame pixels, not checked.
     virtual HRESULT STDMETHODCALLTYPE put_BlockOffsetY(LONG y) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. 0 preserves all edges, 255 smooths all; used by algorithm 1.
@@ -244,6 +266,7 @@ struct IEffectDeblocking : IEffectSwitch {
 };
 
 /// Edge Enhance (EffectId 7), IID_IEffectEdgeEnhance.
+/// One push: put_Enable, put_EnableMultiplier, put_Multiplier.
 struct IEffectEdgeEnhance : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     EFFECT_SETTINGS_RESERVED_SLOT(8)
@@ -260,11 +283,15 @@ struct IEffectEdgeEnhance : IEffectDispatch {
     /// Slot 18. VARIANT_TRUE applies the multiplier.
     virtual HRESULT STDMETHODCALLTYPE put_EnableMultiplier(VARIANT_BOOL enable) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. Factor for enhanced samples, 50 to 1000.
+    /// Slot 20. Factor for enhanced samples, 50 to 1000; it has no unit.
     virtual HRESULT STDMETHODCALLTYPE put_Multiplier(LONG multiplier) = 0;
 };
 
 /// Aging (EffectId 8), IID_IEffectAging. Its area switch is not where the others have theirs.
+/// One push: put_Enable, put_AreaEnable, area edges, put_OldColor, put_Channel, put_Scratches, put_MaxScratches,
+/// put_ScratchHeight, put_Dust, put_RandomDust, put_DustRandomDensity, put_AlwaysAddDust, put_DustDensity,
+/// put_DustColorMode, put_DustColor, put_Pits, put_RandomPits, put_PitsRandomDensity, put_AlwaysAddPits,
+/// put_PitsDensity, put_PitsColorMode, put_PitsColor. Channel and colour modes are left out while none is selected.
 struct IEffectAging : IEffectAreaEdges {
     /// Slot 18. Where the old colours show: 1 all, 2 to 8 (one bit each) channels 1 to 3, 16 luminance.
     virtual HRESULT STDMETHODCALLTYPE put_Channel(LONG channel) = 0;
@@ -278,7 +305,7 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 24. Most scratch lines in a frame, 0 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_MaxScratches(LONG count) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(25)
-    /// Slot 26. Greatest height of a scratch, 1 to 1600.
+    /// Slot 26. Greatest height of a scratch in pixels, 1 to 1600.
     virtual HRESULT STDMETHODCALLTYPE put_ScratchHeight(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(27)
     /// Slot 28. VARIANT_TRUE adds dust.
@@ -290,13 +317,13 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 32. VARIANT_TRUE varies the density at random.
     virtual HRESULT STDMETHODCALLTYPE put_DustRandomDensity(VARIANT_BOOL random) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(33)
-    /// Slot 34. 0 to 100.
+    /// Slot 34. Density of the dust, 0 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_DustDensity(LONG density) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(35)
     /// Slot 36. VARIANT_TRUE adds to every frame, VARIANT_FALSE to random ones.
     virtual HRESULT STDMETHODCALLTYPE put_AlwaysAddDust(VARIANT_BOOL always) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(37)
-    /// Slot 38. The custom colour, a COLORREF.
+    /// Slot 38. The custom colour, a COLORREF (0x00BBGGRR).
     virtual HRESULT STDMETHODCALLTYPE put_DustColor(LONG color) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(39)
     /// Slot 40. VARIANT_TRUE adds pits.
@@ -308,7 +335,7 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 44. VARIANT_TRUE varies the density at random.
     virtual HRESULT STDMETHODCALLTYPE put_PitsRandomDensity(VARIANT_BOOL random) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(45)
-    /// Slot 46. 0 to 100.
+    /// Slot 46. Density of the pits, 0 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_PitsDensity(LONG density) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(47)
     /// Slot 48. VARIANT_TRUE adds to every frame, VARIANT_FALSE to random ones.
@@ -323,11 +350,13 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 54. 1 random, 2 original (grey), 4 custom.
     virtual HRESULT STDMETHODCALLTYPE put_PitsColorMode(LONG mode) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(55)
-    /// Slot 56. The custom colour, a COLORREF.
+    /// Slot 56. The custom colour, a COLORREF (0x00BBGGRR).
     virtual HRESULT STDMETHODCALLTYPE put_PitsColor(LONG color) = 0;
 };
 
 /// Bump Map (EffectId 9), IID_IEffectBumpMap.
+/// One push: put_Enable, put_Invert, put_LightAngle, put_Elevation, put_Depth, put_Ambient, put_XOffset, put_YOffset,
+/// area edges, put_AreaEnable.
 struct IEffectBumpMap : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Direction of the light, 0 to 360 degrees.
@@ -355,16 +384,20 @@ struct IEffectBumpMap : IEffectArea {
 };
 
 /// Dizzy (EffectId 10), IID_IEffectDizzy.
+/// One push: put_Enable, put_ZoomLevel, put_RotationSpeed, put_AreaEnable, area edges, which without a usable
+/// rectangle are 0, 0, 1, 1 in source pixels, converted and in the usual order.
 struct IEffectDizzy : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. 0 to 1000.
+    /// Slot 20. Strength of the zoom, 0 to 1000.
     virtual HRESULT STDMETHODCALLTYPE put_ZoomLevel(LONG level) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
-    /// Slot 22. 0 to 1000.
+    /// Slot 22. Speed of the rotation, 0 to 1000; it has no unit.
     virtual HRESULT STDMETHODCALLTYPE put_RotationSpeed(LONG speed) = 0;
 };
 
 /// Fire (EffectId 11), IID_IEffectFire.
+/// One push: put_Enable, put_GradientLevel, put_ColorsOffset, put_Decay, put_Threshold, put_FlameDirection,
+/// put_EntireObject, put_ShowBackground, put_NoReference, put_FirstFrameReference.
 struct IEffectFire : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Any of the FlameDirection bits.
@@ -398,20 +431,23 @@ struct IEffectFire : IEffectSwitch {
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
 };
 
-/// Glass Tile (EffectId 12), IID_IEffectGlassTile. A push without a usable rectangle leaves out the area switch.
+/// Glass Tile (EffectId 12), IID_IEffectGlassTile.
+/// One push: put_Enable, put_TileWidth, put_TileHeight, put_Refraction, put_AreaEnable (left out without a usable
+/// rectangle), area edges.
 struct IEffectGlassTile : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. 2 to 50.
+    /// Slot 20. In pixels, 2 to 50.
     virtual HRESULT STDMETHODCALLTYPE put_TileWidth(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
-    /// Slot 22. 2 to 50.
+    /// Slot 22. In pixels, 2 to 50.
     virtual HRESULT STDMETHODCALLTYPE put_TileHeight(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(23)
-    /// Slot 24. 2 to 10.
+    /// Slot 24. How strongly the glass bends the light, 2 to 10.
     virtual HRESULT STDMETHODCALLTYPE put_Refraction(LONG refraction) = 0;
 };
 
 /// Hologram (EffectId 13), IID_IEffectHologram.
+/// One push: put_Enable, put_Threshold, put_Hue, put_Noise, put_LineNoise, put_NoReference, put_FirstFrameReference.
 struct IEffectHologram : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Colour of the effect in degrees, 0 to 360.
@@ -435,9 +471,10 @@ struct IEffectHologram : IEffectSwitch {
 };
 
 /// Lens (EffectId 14), IID_IEffectLens.
+/// One push: put_Enable, put_Refraction, put_KeepSurroundings, put_AreaEnable, area edges.
 struct IEffectLens : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. 10 to 160.
+    /// Slot 20. How strongly the lens bends the light, 10 to 160.
     virtual HRESULT STDMETHODCALLTYPE put_Refraction(LONG refraction) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
     /// Slot 22. VARIANT_TRUE keeps the picture around the lens.
@@ -445,6 +482,7 @@ struct IEffectLens : IEffectArea {
 };
 
 /// Lightning (EffectId 15), IID_IEffectLightning.
+/// One push: put_Enable, put_Threshold, put_NoReference, put_FirstFrameReference.
 struct IEffectLightning : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -458,10 +496,12 @@ struct IEffectLightning : IEffectSwitch {
     virtual HRESULT STDMETHODCALLTYPE put_NoReference(VARIANT_BOOL noReference) = 0;
 };
 
-/// Maze (EffectId 16), IID_IEffectMaze. A push without a usable rectangle leaves out the area switch.
+/// Maze (EffectId 16), IID_IEffectMaze.
+/// One push: put_Enable, put_Divisions, put_BreakKind, put_AreaEnable (left out without a usable rectangle), area
+/// edges.
 struct IEffectMaze : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. 0 to 64.
+    /// Slot 20. Number of divisions of the maze, 0 to 64.
     virtual HRESULT STDMETHODCALLTYPE put_Divisions(LONG divisions) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
     /// Slot 22. 0 breaks from the centre, 1 distorted.
@@ -469,6 +509,7 @@ struct IEffectMaze : IEffectArea {
 };
 
 /// Motion Blur (EffectId 17), IID_IEffectMotionBlur.
+/// One push: put_Enable, put_Threshold, put_Hue, put_IntervalFrames.
 struct IEffectMotionBlur : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Colour of the effect in degrees, 0 to 360.
@@ -482,6 +523,8 @@ struct IEffectMotionBlur : IEffectSwitch {
 };
 
 /// Motion Emboss (EffectId 18), IID_IEffectMotionEmboss.
+/// One push: put_Enable, put_LightAngle, put_Elevation, put_Depth, put_Threshold, put_BumpMap, put_NoReference,
+/// put_FirstFrameReference.
 struct IEffectMotionEmboss : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -494,13 +537,13 @@ struct IEffectMotionEmboss : IEffectSwitch {
     /// Slot 15. VARIANT_TRUE embosses with a bump map.
     virtual HRESULT STDMETHODCALLTYPE put_BumpMap(VARIANT_BOOL bumpMap) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(16)
-    /// Slot 17. 1 to 100.
+    /// Slot 17. Depth of the emboss effect, 1 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_Depth(LONG depth) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(18)
-    /// Slot 19. Elevation of the light, 0 (outer) to 180 (inner).
+    /// Slot 19. Elevation of the light in degrees, 0 (outer) to 180 (inner).
     virtual HRESULT STDMETHODCALLTYPE put_Elevation(LONG degrees) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(20)
-    /// Slot 21. Direction of the light, 0 to 360.
+    /// Slot 21. Direction of the light in degrees, 0 to 360.
     virtual HRESULT STDMETHODCALLTYPE put_LightAngle(LONG degrees) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(22)
     /// Slot 23. VARIANT_TRUE compares frames with a black one instead of a reference frame.
@@ -508,9 +551,10 @@ struct IEffectMotionEmboss : IEffectSwitch {
 };
 
 /// Motion Mosaic (EffectId 19), IID_IEffectMotionMosaic.
+/// One push: put_Enable, put_Threshold, put_SquareSize, put_NoReference, put_FirstFrameReference.
 struct IEffectMotionMosaic : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10. Side of a square, 1 to 64.
+    /// Slot 10. Side of a square in pixels, 1 to 64.
     virtual HRESULT STDMETHODCALLTYPE put_SquareSize(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
@@ -525,9 +569,10 @@ struct IEffectMotionMosaic : IEffectSwitch {
 };
 
 /// Motion Scan (EffectId 20), IID_IEffectMotionScan.
+/// One push: put_Enable, put_ShowScanLine, put_LineIncrement, put_AreaEnable, area edges.
 struct IEffectMotionScan : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. Lines of the source video that the scan moves on per frame.
+    /// Slot 20. Lines of the source video that the scan moves on per frame, 1 to the video's height less 1.
     virtual HRESULT STDMETHODCALLTYPE put_LineIncrement(LONG lines) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
     /// Slot 22. VARIANT_TRUE shows the line that is scanned.
@@ -535,19 +580,21 @@ struct IEffectMotionScan : IEffectArea {
 };
 
 /// Particles (EffectId 21), IID_IEffectParticles.
+/// One push: put_Enable, put_Distortion.
 struct IEffectParticles : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10. 1 to 6.
+    /// Slot 10. How far objects fall apart, 1 to 6.
     virtual HRESULT STDMETHODCALLTYPE put_Distortion(LONG level) = 0;
 };
 
 /// Rain (EffectId 22), IID_IEffectRain.
+/// One push: put_Enable, put_CustomRainDrops, put_WaveSpeed, put_Density, put_AreaEnable, area edges.
 struct IEffectRain : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. 1 to 10.
+    /// Slot 20. Speed of the waves, 1 to 10.
     virtual HRESULT STDMETHODCALLTYPE put_WaveSpeed(LONG speed) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
-    /// Slot 22. 1 to 100.
+    /// Slot 22. Density of the drops, 1 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_Density(LONG density) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(23)
     /// Slot 24. VARIANT_TRUE adds custom rain drops.
@@ -555,6 +602,7 @@ struct IEffectRain : IEffectArea {
 };
 
 /// Streak (EffectId 23), IID_IEffectStreak.
+/// One push: put_Enable, put_HeavyMode.
 struct IEffectStreak : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. VARIANT_TRUE shows an object in more than one place.
@@ -562,9 +610,10 @@ struct IEffectStreak : IEffectSwitch {
 };
 
 /// Wave (EffectId 24), IID_IEffectWave.
+/// One push: put_Enable, put_Threshold, put_WaveSpeed.
 struct IEffectWave : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10. 1 to 10.
+    /// Slot 10. Speed of the waves, 1 to 10.
     virtual HRESULT STDMETHODCALLTYPE put_WaveSpeed(LONG speed) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     /// Slot 12. How much has to move to count, 1 to 100; lower detects more.
@@ -578,15 +627,16 @@ struct EmbossParams {
     std::int32_t depth;              ///< 1 to 100.
     std::int32_t emboss;             ///< 1 embosses, 0 makes a bump map.
     std::int32_t enabled;            ///< 0 or 1; with 0 the filter passes frames through.
-    std::int32_t defaultLightAngle;  ///< Always 180.
-    std::int32_t defaultElevation;   ///< Always 90.
-    std::int32_t defaultDepth;       ///< Always 50.
-    std::int32_t defaultEmboss;      ///< Always 1.
-    std::int32_t defaultEnabled;     ///< Always 1.
+    std::int32_t defaultLightAngle;  ///< Always EmbossSettings' default.
+    std::int32_t defaultElevation;   ///< Likewise.
+    std::int32_t defaultDepth;       ///< Likewise.
+    std::int32_t defaultEmboss;      ///< Likewise.
+    std::int32_t defaultEnabled;     ///< Likewise.
 };
-static_assert(sizeof(EmbossParams) == 40);
+static_assert(sizeof(EmbossParams) == 40, "EmbossParams");
 
-/// Emboss (EffectId 25), IID_IEffectEmboss. Each push calls both.
+/// Emboss (EffectId 25), IID_IEffectEmboss.
+/// One push: SetEmbossParams, SetAreaParams.
 struct IEffectEmboss : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -594,7 +644,7 @@ struct IEffectEmboss : IUnknown {
     /// Slot 6. Takes all values but the area at once.
     virtual HRESULT STDMETHODCALLTYPE SetEmbossParams(EmbossParams params) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(7)
-    /// Slot 8.
+    /// Slot 8. The area; ends the push.
     virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
 };
 
@@ -605,9 +655,10 @@ struct MosaicParams {
     std::int32_t reserved1;   ///< Always 0.
     std::int32_t reserved2;   ///< Always 0.
 };
-static_assert(sizeof(MosaicParams) == 16);
+static_assert(sizeof(MosaicParams) == 16, "MosaicParams");
 
-/// Mosaic (EffectId 27), IID_IEffectMosaic. Each push calls both.
+/// Mosaic (EffectId 27), IID_IEffectMosaic.
+/// One push: SetMosaicParams, SetAreaParams.
 struct IEffectMosaic : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -615,11 +666,12 @@ struct IEffectMosaic : IUnknown {
     /// Slot 6. Takes all values but the area at once.
     virtual HRESULT STDMETHODCALLTYPE SetMosaicParams(MosaicParams params) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(7)
-    /// Slot 8.
+    /// Slot 8. The area; ends the push.
     virtual HRESULT STDMETHODCALLTYPE SetAreaParams(AreaParams params) = 0;
 };
 
 /// Unsharp Mask (EffectId 28), IID_IEffectUnsharpMask.
+/// One push: put_Enable, put_Amount, put_Radius, put_Threshold.
 struct IEffectUnsharpMask : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     EFFECT_SETTINGS_RESERVED_SLOT(8)
@@ -636,14 +688,16 @@ struct IEffectUnsharpMask : IEffectDispatch {
     /// Slot 18. Smallest difference that is sharpened, 0 to 255.
     virtual HRESULT STDMETHODCALLTYPE put_Threshold(LONG threshold) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. Of the neighbourhood that is blurred, 1 to 100.
+    /// Slot 20. Of the neighbourhood that is blurred, in pixels, 1 to 100.
     virtual HRESULT STDMETHODCALLTYPE put_Radius(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
-    /// Slot 22. Of sharpening, 0 to 500.
+    /// Slot 22. Strength of the sharpening, 0 to 500.
     virtual HRESULT STDMETHODCALLTYPE put_Amount(LONG amount) = 0;
 };
 
 /// Video Rotation (EffectId 29), IID_IEffectVideoRotation.
+/// One push: put_Flip, put_Reverse, put_Angle; while the effect is off put_Angle(0), put_Flip and put_Reverse with
+/// VARIANT_FALSE.
 struct IEffectVideoRotation : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     /// Slot 8. VARIANT_TRUE reverses the picture.
@@ -654,7 +708,7 @@ struct IEffectVideoRotation : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     EFFECT_SETTINGS_RESERVED_SLOT(12)
     EFFECT_SETTINGS_RESERVED_SLOT(13)
-    /// Slot 14. 0, 90, 180 or 270. There is no switch: angle 0 without flip and reverse is off.
+    /// Slot 14. 0, 90, 180 or 270 degrees. There is no switch: angle 0 without flip and reverse is off.
     virtual HRESULT STDMETHODCALLTYPE put_Angle(LONG degrees) = 0;
 };
 
@@ -668,7 +722,7 @@ struct ChorusParams {
     std::int32_t enabled;      ///< 0 or 1; with 0 the filter passes sound through.
     std::int32_t reserved[6];  ///< Always 0.
 };
-static_assert(sizeof(ChorusParams) == 48);
+static_assert(sizeof(ChorusParams) == 48, "ChorusParams");
 
 /// Audio Chorus (EffectId 30), IID_IEffectAudioChorus.
 struct IEffectAudioChorus : IUnknown {
@@ -676,6 +730,7 @@ struct IEffectAudioChorus : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE SetChorusParams(ChorusParams params) = 0;
 };
 
+#undef EFFECT_SETTINGS_CONSTANT
 #undef EFFECT_SETTINGS_RESERVED_SLOT
 
 #endif

@@ -1,16 +1,19 @@
 // The host's side of EffectSettings.dll: the one exported function, the effects it knows and the
-// records that carry their values. Compiles alone, in C++17 and later.
+// records that carry their values. Compiles alone, as C11 and as C++11 and later.
 #ifndef EFFECT_SETTINGS_EFFECT_SETTINGS_H
 #define EFFECT_SETTINGS_EFFECT_SETTINGS_H
 
+#ifdef __cplusplus
 #include <cstdint>
+#endif
+#include <stdint.h>
 
 #include <windows.h>
 
 // How a host uses this library
 //
 // The host keeps one record per effect, for example a GammaCorrectionSettings, and calls
-// ShowSettingsDialog with it. Three things then happen:
+// effect_settings::ShowSettings with it (from C, ShowSettingsDialog). Three things then happen:
 //
 // - The dialog opens: it takes its values from the record, takes the effect's filter out of the
 //   host's list of processors, puts it into the active chain and sends it all values. Half a second
@@ -20,67 +23,87 @@
 //
 // What the host implements for that is in media_host.h; what a filter implements is in
 // effect_filters.h.
+//
+// Everything that is measured in pixels means pixels: dialogs have fixed sizes and are not scaled
+// to the screen's resolution by the library. Whether the system stretches them is decided by the
+// DPI awareness of the host, as for the host's own windows.
+//
+// The title bar's close button is drawn from img\btn\dia-close.png in the folder of the host's
+// executable. Without the picture the button is invisible but works, and nothing is reported.
 
-struct IMediaHost;
+typedef struct IMediaHost IMediaHost;
 
-/// The effects. The numbers are a contract with hosts and never change.
-enum class EffectId : std::int32_t {
-    AutoContrast = 1,
-    AutoIntensity = 2,
-    AutoLevel = 3,
-    Brightness = 4,
-    Color = 5,
-    Deblocking = 6,
-    EdgeEnhance = 7,
-    Aging = 8,
-    BumpMap = 9,
-    Dizzy = 10,
-    Fire = 11,
-    GlassTile = 12,
-    Hologram = 13,
-    Lens = 14,
-    Lightning = 15,
-    Maze = 16,
-    MotionBlur = 17,
-    MotionEmboss = 18,
-    MotionMosaic = 19,
-    MotionScan = 20,
-    Particles = 21,
-    Rain = 22,
-    Streak = 23,
-    Wave = 24,
-    Emboss = 25,
-    GammaCorrection = 26,
-    Mosaic = 27,
-    UnsharpMask = 28,
-    VideoRotation = 29,
-    AudioChorus = 30,
-};
+/// The effects: EFFECT is a macro that gets the name and the number of each, in ascending order. Whatever there is one
+/// of for each effect has its name: WaveSettings and EffectId::Wave here, CLSID_EffectWave, IID_IEffectWave and
+/// IEffectWave in effect_filters.h. The numbers are a contract with hosts and never change.
+#define EFFECT_SETTINGS_EFFECTS(EFFECT) \
+    EFFECT(AutoContrast, 1)             \
+    EFFECT(AutoIntensity, 2)            \
+    EFFECT(AutoLevel, 3)                \
+    EFFECT(Brightness, 4)               \
+    EFFECT(Color, 5)                    \
+    EFFECT(Deblocking, 6)               \
+    EFFECT(EdgeEnhance, 7)              \
+    EFFECT(Aging, 8)                    \
+    EFFECT(BumpMap, 9)                  \
+    EFFECT(Dizzy, 10)                   \
+    EFFECT(Fire, 11)                    \
+    EFFECT(GlassTile, 12)               \
+    EFFECT(Hologram, 13)                \
+    EFFECT(Lens, 14)                    \
+    EFFECT(Lightning, 15)               \
+    EFFECT(Maze, 16)                    \
+    EFFECT(MotionBlur, 17)              \
+    EFFECT(MotionEmboss, 18)            \
+    EFFECT(MotionMosaic, 19)            \
+    EFFECT(MotionScan, 20)              \
+    EFFECT(Particles, 21)               \
+    EFFECT(Rain, 22)                    \
+    EFFECT(Streak, 23)                  \
+    EFFECT(Wave, 24)                    \
+    EFFECT(Emboss, 25)                  \
+    EFFECT(GammaCorrection, 26)         \
+    EFFECT(Mosaic, 27)                  \
+    EFFECT(UnsharpMask, 28)             \
+    EFFECT(VideoRotation, 29)           \
+    EFFECT(AudioChorus, 30)
 
-inline constexpr std::int32_t kFirstEffectId = 1;
-inline constexpr std::int32_t kLastEffectId = 30;
+#ifdef __cplusplus
+#define EFFECT_SETTINGS_ID(name, number) name = number,
+#define EFFECT_SETTINGS_DEFAULT(value) = value
+#define EFFECT_SETTINGS_SIZE(record, size) static_assert(sizeof(record) == (size), #record)
+
+/// EffectId::Wave and so on.
+enum class EffectId : int32_t { EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_ID) };
+#else
+#define EFFECT_SETTINGS_ID(name, number) EffectId_##name = number,
+#define EFFECT_SETTINGS_DEFAULT(value)
+#define EFFECT_SETTINGS_SIZE(record, size) _Static_assert(sizeof(record) == (size), #record)
+
+/// In C EffectId_Wave and so on.
+typedef int32_t EffectId;
+enum { EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_ID) };
+#endif
+
+#define EFFECT_SETTINGS_COUNT(name, number) +1
+enum { kFirstEffectId = 1, kLastEffectId = 0 EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_COUNT) };
 
 /// Any one of the records below: the one that belongs to the EffectId of the call. Records are owned by the host, read
 /// when the dialog opens and written only when the user presses OK. Values out of a range are clamped when shown and
-/// so come back clamped; "default" is what "Set as default" sets.
+/// so come back clamped. Numbers without a unit are plain levels.
+///
+/// In C++ a new record holds the effect's defaults, which are what "Set as default" sets; in C they can be read below
+/// but have to be filled in. (C++11 then has no GammaCorrectionSettings{1, 100}; C++14 has.)
 ///
 /// Eleven effects can be limited to a rectangle of the video, their area, whose right and bottom edges lie just outside
 /// of it. It is mended as soon as the dialog opens, in the caller's record and even if the dialog is then cancelled:
 /// right and bottom are brought into 1 to the video's width and height, left and top below right and bottom. OK stores
 /// the edges as the user typed them; it refuses a rectangle that is empty or reaches over the right or bottom edge of
 /// the video only while the area is switched on.
-using EffectSettingsRecord = void;
-
-/// Settings of the Gamma Correction effect (EffectId 26).
-/// Owned by the host; read when the dialog opens, written only when the user presses OK.
-struct GammaCorrectionSettings {
-    std::int32_t enabled;  ///< 0 or 1.
-    std::int32_t value;    ///< Gamma factor in hundredths: 1 to 500, 100 is neutral.
-};
-static_assert(sizeof(GammaCorrectionSettings) == 8);
+typedef void EffectSettingsRecord;
 
 /// The bits of IEffectFire::put_FlameDirection and FireSettings::flameDirection; any of them together.
-enum FlameDirection : std::int32_t {
+typedef enum FlameDirection {
     kFlameNorth = 0x001,
     kFlameSouth = 0x002,
     kFlameEast = 0x004,
@@ -90,378 +113,449 @@ enum FlameDirection : std::int32_t {
     kFlameSouthEast = 0x040,
     kFlameSouthWest = 0x080,
     kFlameGlow = 0x100,  ///< All around the object.
-};
+} FlameDirection;
 
 /// Settings of the Auto Contrast effect (EffectId 1).
-struct AutoContrastSettings {
-    std::int32_t enabled;  ///< 0 or 1.
-};
-static_assert(sizeof(AutoContrastSettings) == 4);
+typedef struct AutoContrastSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} AutoContrastSettings;
+EFFECT_SETTINGS_SIZE(AutoContrastSettings, 4);
 
 /// Settings of the Auto Intensity effect (EffectId 2).
-struct AutoIntensitySettings {
-    std::int32_t enabled;  ///< 0 or 1.
-};
-static_assert(sizeof(AutoIntensitySettings) == 4);
+typedef struct AutoIntensitySettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} AutoIntensitySettings;
+EFFECT_SETTINGS_SIZE(AutoIntensitySettings, 4);
 
 /// Settings of the Auto Level effect (EffectId 3).
-struct AutoLevelSettings {
-    std::int32_t enabled;  ///< 0 or 1.
-};
-static_assert(sizeof(AutoLevelSettings) == 4);
+typedef struct AutoLevelSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} AutoLevelSettings;
+EFFECT_SETTINGS_SIZE(AutoLevelSettings, 4);
 
 /// Settings of the Brightness effect (EffectId 4).
-struct BrightnessSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-    std::int32_t threshold;            ///< 1 to 100; default 50. Lower detects more movement.
-    std::int32_t brightness;           ///< -1000 to 1000; default 100.
-};
-static_assert(sizeof(BrightnessSettings) == 16);
+typedef struct BrightnessSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);           ///< 1 to 100. Lower detects more movement.
+    int32_t brightness EFFECT_SETTINGS_DEFAULT(100);         ///< -1000 to 1000.
+} BrightnessSettings;
+EFFECT_SETTINGS_SIZE(BrightnessSettings, 16);
 
 /// Settings of the Color effect (EffectId 5).
-struct ColorSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t invert;       ///< 0 or 1; default 0.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t hue;          ///< -180 to 180 degrees; default 0.
-    std::int32_t saturation;   ///< -100 to 100; default 0.
-    std::int32_t brightness;   ///< -100 to 100; default 0.
-    std::int32_t contrast;     ///< -100 to 100; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(ColorSettings) == 44);
+typedef struct ColorSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
+    int32_t invert EFFECT_SETTINGS_DEFAULT(0);       ///< 0 or 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t hue EFFECT_SETTINGS_DEFAULT(0);          ///< -180 to 180 degrees.
+    int32_t saturation EFFECT_SETTINGS_DEFAULT(0);   ///< -100 to 100.
+    int32_t brightness EFFECT_SETTINGS_DEFAULT(0);   ///< -100 to 100.
+    int32_t contrast EFFECT_SETTINGS_DEFAULT(0);     ///< -100 to 100.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} ColorSettings;
+EFFECT_SETTINGS_SIZE(ColorSettings, 44);
 
 /// Settings of the Deblocking effect (EffectId 6).
-struct DeblockingSettings {
-    std::int32_t enabled;        ///< 0 or 1; default 1.
-    std::int32_t algorithm;      ///< 0 (two lines, the default) or 1 (four lines).
-    std::int32_t edgeThreshold;  ///< 0 to 255; default 48.
-    std::int32_t blockOffsetX;   ///< In pixels of the source video; default 0.
-    std::int32_t blockOffsetY;   ///< In pixels of the source video; default 0.
-    std::int32_t blockWidth;     ///< In pixels of the source video; default 8.
-    std::int32_t blockHeight;    ///< In pixels of the source video; default 8.
-};
-static_assert(sizeof(DeblockingSettings) == 28);
+typedef struct DeblockingSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1.
+    int32_t algorithm EFFECT_SETTINGS_DEFAULT(0);       ///< 0 (two lines) or 1 (four lines).
+    int32_t edgeThreshold EFFECT_SETTINGS_DEFAULT(48);  ///< 0 to 255.
+    int32_t blockOffsetX EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video.
+    int32_t blockOffsetY EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video.
+    int32_t blockWidth EFFECT_SETTINGS_DEFAULT(8);      ///< In pixels of the source video.
+    int32_t blockHeight EFFECT_SETTINGS_DEFAULT(8);     ///< In pixels of the source video.
+} DeblockingSettings;
+EFFECT_SETTINGS_SIZE(DeblockingSettings, 28);
 
 /// Settings of the Edge Enhance effect (EffectId 7).
-struct EdgeEnhanceSettings {
-    std::int32_t enabled;            ///< 0 or 1; default 1.
-    std::int32_t multiplierEnabled;  ///< 0 or 1; default 1.
-    std::int32_t multiplier;         ///< 50 to 1000; default 100.
-};
-static_assert(sizeof(EdgeEnhanceSettings) == 12);
+typedef struct EdgeEnhanceSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);            ///< 0 or 1.
+    int32_t multiplierEnabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t multiplier EFFECT_SETTINGS_DEFAULT(100);       ///< 50 to 1000.
+} EdgeEnhanceSettings;
+EFFECT_SETTINGS_SIZE(EdgeEnhanceSettings, 12);
 
 /// Settings of the Aging effect (EffectId 8). A channel or colour mode that is no choice selects none, and OK keeps it
 /// until the user selects one.
-struct AgingSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-    std::int32_t oldColor;           ///< 0 or 1; default 1.
-    std::int32_t channel;            ///< 0 all (the default), 1 to 3 a channel, 4 luminance, else none.
-    std::int32_t scratches;          ///< 0 or 1; default 1.
-    std::int32_t maxScratches;       ///< 0 to 100 lines per frame; default 2.
-    std::int32_t scratchHeight;      ///< 1 to 1600 pixels; default 1600.
-    std::int32_t dust;               ///< 0 or 1; default 1.
-    std::int32_t randomDust;         ///< 0 or 1; default 1. With 1 the other settings of dust do not apply.
-    std::int32_t dustRandomDensity;  ///< 0 or 1; default 1. With 1 the density does not apply.
-    std::int32_t alwaysAddDust;      ///< 0 or 1; default 0. 0 adds to random frames, 1 to every frame.
-    std::int32_t dustDensity;        ///< 0 to 100; default 1.
-    std::int32_t dustColorMode;      ///< 0 random, 1 original (black, the default), 2 custom, else none.
-    std::int32_t dustColor;          ///< Custom colour, 0x00BBGGRR (higher bits are dropped); default 0x000000.
-    std::int32_t pits;               ///< 0 or 1; default 1.
-    std::int32_t randomPits;         ///< 0 or 1; default 1. With 1 the other settings of pits do not apply.
-    std::int32_t pitsRandomDensity;  ///< 0 or 1; default 1. With 1 the density does not apply.
-    std::int32_t alwaysAddPits;      ///< 0 or 1; default 0. 0 adds to random frames, 1 to every frame.
-    std::int32_t pitsDensity;        ///< 0 to 100; default 1.
-    std::int32_t pitsColorMode;      ///< 0 random, 1 original (grey, the default), 2 custom, else none.
-    std::int32_t pitsColor;          ///< Custom colour, 0x00BBGGRR (higher bits are dropped); default 0x969696.
-};
-static_assert(sizeof(AgingSettings) == 100);
+typedef struct AgingSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+    int32_t oldColor EFFECT_SETTINGS_DEFAULT(1);           ///< 0 or 1.
+    int32_t channel EFFECT_SETTINGS_DEFAULT(0);            ///< 0 all, 1 to 3 a channel, 4 luminance, else none.
+    int32_t scratches EFFECT_SETTINGS_DEFAULT(1);          ///< 0 or 1.
+    int32_t maxScratches EFFECT_SETTINGS_DEFAULT(2);       ///< 0 to 100 lines per frame.
+    int32_t scratchHeight EFFECT_SETTINGS_DEFAULT(1600);   ///< 1 to 1600 pixels.
+    int32_t dust EFFECT_SETTINGS_DEFAULT(1);               ///< 0 or 1.
+    int32_t randomDust EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1. With 1 the other settings of dust do not apply.
+    int32_t dustRandomDensity EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1. With 1 the density does not apply.
+    int32_t alwaysAddDust EFFECT_SETTINGS_DEFAULT(0);      ///< 0 or 1. 0 adds to random frames, 1 to every frame.
+    int32_t dustDensity EFFECT_SETTINGS_DEFAULT(1);        ///< 0 to 100.
+    int32_t dustColorMode EFFECT_SETTINGS_DEFAULT(1);      ///< 0 random, 1 original (black), 2 custom, else none.
+    int32_t dustColor EFFECT_SETTINGS_DEFAULT(0x000000);   ///< Custom colour, 0x00BBGGRR (higher bits are dropped).
+    int32_t pits EFFECT_SETTINGS_DEFAULT(1);               ///< 0 or 1.
+    int32_t randomPits EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1. With 1 the other settings of pits do not apply.
+    int32_t pitsRandomDensity EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1. With 1 the density does not apply.
+    int32_t alwaysAddPits EFFECT_SETTINGS_DEFAULT(0);      ///< 0 or 1. 0 adds to random frames, 1 to every frame.
+    int32_t pitsDensity EFFECT_SETTINGS_DEFAULT(1);        ///< 0 to 100.
+    int32_t pitsColorMode EFFECT_SETTINGS_DEFAULT(1);      ///< 0 random, 1 original (grey), 2 custom, else none.
+    int32_t pitsColor EFFECT_SETTINGS_DEFAULT(0x969696);   ///< Custom colour, 0x00BBGGRR (higher bits are dropped).
+} AgingSettings;
+EFFECT_SETTINGS_SIZE(AgingSettings, 100);
 
 /// Settings of the Bump Map effect (EffectId 9).
-struct BumpMapSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t lightAngle;   ///< 0 to 360 degrees; default 135.
-    std::int32_t elevation;    ///< 0 to 90 degrees; default 45.
-    std::int32_t depth;        ///< 1 to 65; default 3.
-    std::int32_t ambient;      ///< 0 to 255; default 0.
-    std::int32_t xOffset;      ///< -(w - 1) to w - 1 pixels for a source video of width w; default 0.
-    std::int32_t yOffset;      ///< -(h - 1) to h - 1 pixels for a source video of height h; default 0.
-    std::int32_t invert;       ///< 0 or 1; default 0.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(BumpMapSettings) == 52);
+typedef struct BumpMapSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);       ///< 0 or 1.
+    int32_t lightAngle EFFECT_SETTINGS_DEFAULT(135);  ///< 0 to 360 degrees.
+    int32_t elevation EFFECT_SETTINGS_DEFAULT(45);    ///< 0 to 90 degrees.
+    int32_t depth EFFECT_SETTINGS_DEFAULT(3);         ///< 1 to 65.
+    int32_t ambient EFFECT_SETTINGS_DEFAULT(0);       ///< 0 to 255.
+    int32_t xOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(w - 1) to w - 1 pixels for a source video of width w.
+    int32_t yOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(h - 1) to h - 1 pixels for a source video of height h.
+    int32_t invert EFFECT_SETTINGS_DEFAULT(0);        ///< 0 or 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);   ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);          ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} BumpMapSettings;
+EFFECT_SETTINGS_SIZE(BumpMapSettings, 52);
 
 /// Settings of the Dizzy effect (EffectId 10).
-struct DizzySettings {
-    std::int32_t enabled;        ///< 0 or 1; default 1.
-    std::int32_t zoomLevel;      ///< 0 to 1000; default 10.
-    std::int32_t rotationSpeed;  ///< 0 to 1000; default 20.
-    std::int32_t areaEnabled;    ///< 0 or 1; default 0.
-    std::int32_t left;           ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(DizzySettings) == 32);
+typedef struct DizzySettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1.
+    int32_t zoomLevel EFFECT_SETTINGS_DEFAULT(10);      ///< 0 to 1000.
+    int32_t rotationSpeed EFFECT_SETTINGS_DEFAULT(20);  ///< 0 to 1000.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);     ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);            ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} DizzySettings;
+EFFECT_SETTINGS_SIZE(DizzySettings, 32);
 
 /// Settings of the Fire effect (EffectId 11).
-struct FireSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t gradientLevel;        ///< 0 to 100 per cent; default 50.
-    std::int32_t colorsOffset;         ///< 0 to 1000; default 660.
-    std::int32_t decay;                ///< 1 to 100; default 15.
-    std::int32_t threshold;            ///< 1 to 100; default 50.
-    std::int32_t flameDirection;       ///< FlameDirection bits; others are dropped. Default kFlameNorth.
-    std::int32_t entireObject;         ///< 0 or 1; default 1.
-    std::int32_t showBackground;       ///< 0 or 1; default 0.
-    std::int32_t noReference;          ///< 0 or 1; default 0.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-};
-static_assert(sizeof(FireSettings) == 40);
+typedef struct FireSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);                   ///< 0 or 1.
+    int32_t gradientLevel EFFECT_SETTINGS_DEFAULT(50);            ///< 0 to 100 per cent.
+    int32_t colorsOffset EFFECT_SETTINGS_DEFAULT(660);            ///< 0 to 1000.
+    int32_t decay EFFECT_SETTINGS_DEFAULT(15);                    ///< 1 to 100.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);                ///< 1 to 100.
+    int32_t flameDirection EFFECT_SETTINGS_DEFAULT(kFlameNorth);  ///< FlameDirection bits; others are dropped.
+    int32_t entireObject EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t showBackground EFFECT_SETTINGS_DEFAULT(0);            ///< 0 or 1.
+    int32_t noReference EFFECT_SETTINGS_DEFAULT(0);               ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);       ///< 0 or 1.
+} FireSettings;
+EFFECT_SETTINGS_SIZE(FireSettings, 40);
 
 /// Settings of the Glass Tile effect (EffectId 12).
-struct GlassTileSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t tileWidth;    ///< 2 to 50 pixels; default 20.
-    std::int32_t tileHeight;   ///< 2 to 50 pixels; default 20.
-    std::int32_t refraction;   ///< 2 to 10; default 2.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(GlassTileSettings) == 36);
+typedef struct GlassTileSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
+    int32_t tileWidth EFFECT_SETTINGS_DEFAULT(20);   ///< 2 to 50 pixels.
+    int32_t tileHeight EFFECT_SETTINGS_DEFAULT(20);  ///< 2 to 50 pixels.
+    int32_t refraction EFFECT_SETTINGS_DEFAULT(2);   ///< 2 to 10.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} GlassTileSettings;
+EFFECT_SETTINGS_SIZE(GlassTileSettings, 36);
 
 /// Settings of the Hologram effect (EffectId 13).
-struct HologramSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t hue;                  ///< 0 to 360 degrees; default 0.
-    std::int32_t noise;                ///< 1 to 100; default 10.
-    std::int32_t threshold;            ///< 1 to 100; default 50.
-    std::int32_t lineNoise;            ///< 0 or 1; default 1.
-    std::int32_t noReference;          ///< 0 or 1; default 0.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-};
-static_assert(sizeof(HologramSettings) == 28);
+typedef struct HologramSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t hue EFFECT_SETTINGS_DEFAULT(0);                  ///< 0 to 360 degrees.
+    int32_t noise EFFECT_SETTINGS_DEFAULT(10);               ///< 1 to 100.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);           ///< 1 to 100.
+    int32_t lineNoise EFFECT_SETTINGS_DEFAULT(1);            ///< 0 or 1.
+    int32_t noReference EFFECT_SETTINGS_DEFAULT(0);          ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} HologramSettings;
+EFFECT_SETTINGS_SIZE(HologramSettings, 28);
 
 /// Settings of the Lens effect (EffectId 14).
-struct LensSettings {
-    std::int32_t enabled;           ///< 0 or 1; default 1.
-    std::int32_t refraction;        ///< 10 to 160; default 20.
-    std::int32_t keepSurroundings;  ///< 0 or 1; default 1.
-    std::int32_t areaEnabled;       ///< 0 or 1; default 0.
-    std::int32_t left;              ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(LensSettings) == 32);
+typedef struct LensSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);           ///< 0 or 1.
+    int32_t refraction EFFECT_SETTINGS_DEFAULT(20);       ///< 10 to 160.
+    int32_t keepSurroundings EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);       ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);              ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} LensSettings;
+EFFECT_SETTINGS_SIZE(LensSettings, 32);
 
 /// Settings of the Lightning effect (EffectId 15).
-struct LightningSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t threshold;            ///< 1 to 100; default 50.
-    std::int32_t noReference;          ///< 0 or 1; default 0.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-};
-static_assert(sizeof(LightningSettings) == 16);
+typedef struct LightningSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);           ///< 1 to 100.
+    int32_t noReference EFFECT_SETTINGS_DEFAULT(0);          ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} LightningSettings;
+EFFECT_SETTINGS_SIZE(LightningSettings, 16);
 
 /// Settings of the Maze effect (EffectId 16).
-struct MazeSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t divisions;    ///< 0 to 64; default 8.
-    std::int32_t breakKind;    ///< 0 from the centre (the default), 1 distorted; any other counts as 1.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(MazeSettings) == 32);
+typedef struct MazeSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
+    int32_t divisions EFFECT_SETTINGS_DEFAULT(8);    ///< 0 to 64.
+    int32_t breakKind EFFECT_SETTINGS_DEFAULT(0);    ///< 0 from the centre, 1 distorted; any other counts as 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} MazeSettings;
+EFFECT_SETTINGS_SIZE(MazeSettings, 32);
 
 /// Settings of the Motion Blur effect (EffectId 17).
-struct MotionBlurSettings {
-    std::int32_t enabled;         ///< 0 or 1; default 1.
-    std::int32_t hue;             ///< 0 to 360 degrees; default 0.
-    std::int32_t threshold;       ///< 1 to 100; default 50.
-    std::int32_t intervalFrames;  ///< 1 to 200 frames; default 2.
-};
-static_assert(sizeof(MotionBlurSettings) == 16);
+typedef struct MotionBlurSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1.
+    int32_t hue EFFECT_SETTINGS_DEFAULT(0);             ///< 0 to 360 degrees.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);      ///< 1 to 100.
+    int32_t intervalFrames EFFECT_SETTINGS_DEFAULT(2);  ///< 1 to 200 frames.
+} MotionBlurSettings;
+EFFECT_SETTINGS_SIZE(MotionBlurSettings, 16);
 
 /// Settings of the Motion Emboss effect (EffectId 18).
-struct MotionEmbossSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t lightAngle;           ///< 0 to 360 degrees; default 180.
-    std::int32_t elevation;            ///< 0 to 180 degrees; default 90.
-    std::int32_t depth;                ///< 1 to 100; default 10.
-    std::int32_t threshold;            ///< 1 to 100; default 50.
-    std::int32_t bumpMap;              ///< 1 with a bump map, 0 without; default 0.
-    std::int32_t noReference;          ///< 0 or 1; default 0.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-};
-static_assert(sizeof(MotionEmbossSettings) == 32);
+typedef struct MotionEmbossSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t lightAngle EFFECT_SETTINGS_DEFAULT(180);         ///< 0 to 360 degrees.
+    int32_t elevation EFFECT_SETTINGS_DEFAULT(90);           ///< 0 to 180 degrees.
+    int32_t depth EFFECT_SETTINGS_DEFAULT(10);               ///< 1 to 100.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);           ///< 1 to 100.
+    int32_t bumpMap EFFECT_SETTINGS_DEFAULT(0);              ///< 1 with a bump map, 0 without.
+    int32_t noReference EFFECT_SETTINGS_DEFAULT(0);          ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} MotionEmbossSettings;
+EFFECT_SETTINGS_SIZE(MotionEmbossSettings, 32);
 
 /// Settings of the Motion Mosaic effect (EffectId 19).
-struct MotionMosaicSettings {
-    std::int32_t enabled;              ///< 0 or 1; default 1.
-    std::int32_t squareSize;           ///< 1 to 64 pixels; default 8.
-    std::int32_t threshold;            ///< 1 to 100; default 50.
-    std::int32_t noReference;          ///< 0 or 1; default 0.
-    std::int32_t firstFrameReference;  ///< 0 or 1; default 1.
-};
-static_assert(sizeof(MotionMosaicSettings) == 20);
+typedef struct MotionMosaicSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);              ///< 0 or 1.
+    int32_t squareSize EFFECT_SETTINGS_DEFAULT(8);           ///< 1 to 64 pixels.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(50);           ///< 1 to 100.
+    int32_t noReference EFFECT_SETTINGS_DEFAULT(0);          ///< 0 or 1.
+    int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+} MotionMosaicSettings;
+EFFECT_SETTINGS_SIZE(MotionMosaicSettings, 20);
 
 /// Settings of the Motion Scan effect (EffectId 20).
-struct MotionScanSettings {
-    std::int32_t enabled;        ///< 0 or 1; default 1.
-    std::int32_t showScanLine;   ///< 0 or 1; default 1.
-    std::int32_t lineIncrement;  ///< 1 to h - 1 lines for a source video of height h; default 1.
-    std::int32_t areaEnabled;    ///< 0 or 1; default 0.
-    std::int32_t left;           ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(MotionScanSettings) == 32);
+typedef struct MotionScanSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);        ///< 0 or 1.
+    int32_t showScanLine EFFECT_SETTINGS_DEFAULT(1);   ///< 0 or 1.
+    int32_t lineIncrement EFFECT_SETTINGS_DEFAULT(1);  ///< 1 to h - 1 lines for a source video of height h.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);    ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);           ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} MotionScanSettings;
+EFFECT_SETTINGS_SIZE(MotionScanSettings, 32);
 
 /// Settings of the Particles effect (EffectId 21).
-struct ParticlesSettings {
-    std::int32_t enabled;  ///< 0 or 1; default 1.
-    std::int32_t value;    ///< Distortion, 1 to 6; default 4.
-};
-static_assert(sizeof(ParticlesSettings) == 8);
+typedef struct ParticlesSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t value EFFECT_SETTINGS_DEFAULT(4);    ///< Distortion, 1 to 6.
+} ParticlesSettings;
+EFFECT_SETTINGS_SIZE(ParticlesSettings, 8);
 
 /// Settings of the Rain effect (EffectId 22).
-struct RainSettings {
-    std::int32_t enabled;          ///< 0 or 1; default 1.
-    std::int32_t customRainDrops;  ///< 0 or 1; default 0.
-    std::int32_t waveSpeed;        ///< 1 to 10; default 2.
-    std::int32_t density;          ///< 1 to 100; default 8.
-    std::int32_t areaEnabled;      ///< 0 or 1; default 0.
-    std::int32_t left;             ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(RainSettings) == 36);
+typedef struct RainSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);          ///< 0 or 1.
+    int32_t customRainDrops EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t waveSpeed EFFECT_SETTINGS_DEFAULT(2);        ///< 1 to 10.
+    int32_t density EFFECT_SETTINGS_DEFAULT(8);          ///< 1 to 100.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);      ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);             ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} RainSettings;
+EFFECT_SETTINGS_SIZE(RainSettings, 36);
 
 /// Settings of the Streak effect (EffectId 23).
-struct StreakSettings {
-    std::int32_t enabled;    ///< 0 or 1; default 1.
-    std::int32_t heavyMode;  ///< 0 or 1; default 0.
-};
-static_assert(sizeof(StreakSettings) == 8);
+typedef struct StreakSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);    ///< 0 or 1.
+    int32_t heavyMode EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+} StreakSettings;
+EFFECT_SETTINGS_SIZE(StreakSettings, 8);
 
 /// Settings of the Wave effect (EffectId 24).
-struct WaveSettings {
-    std::int32_t enabled;    ///< 0 or 1; default 1.
-    std::int32_t waveSpeed;  ///< 1 to 10; default 2.
-    std::int32_t threshold;  ///< 1 to 100; default 70.
-};
-static_assert(sizeof(WaveSettings) == 12);
+typedef struct WaveSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);     ///< 0 or 1.
+    int32_t waveSpeed EFFECT_SETTINGS_DEFAULT(2);   ///< 1 to 10.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(70);  ///< 1 to 100.
+} WaveSettings;
+EFFECT_SETTINGS_SIZE(WaveSettings, 12);
 
 /// Settings of the Emboss effect (EffectId 25).
-struct EmbossSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t lightAngle;   ///< 0 to 360 degrees; default 180.
-    std::int32_t elevation;    ///< 0 to 180 degrees; default 90.
-    std::int32_t depth;        ///< 1 to 100; default 50.
-    std::int32_t emboss;       ///< 1 emboss (the default), 0 bump map; any other counts as 1.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(EmbossSettings) == 40);
+typedef struct EmbossSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);       ///< 0 or 1.
+    int32_t lightAngle EFFECT_SETTINGS_DEFAULT(180);  ///< 0 to 360 degrees.
+    int32_t elevation EFFECT_SETTINGS_DEFAULT(90);    ///< 0 to 180 degrees.
+    int32_t depth EFFECT_SETTINGS_DEFAULT(50);        ///< 1 to 100.
+    int32_t emboss EFFECT_SETTINGS_DEFAULT(1);        ///< 1 emboss, 0 bump map; any other counts as 1.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);   ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);          ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} EmbossSettings;
+EFFECT_SETTINGS_SIZE(EmbossSettings, 40);
+
+/// Settings of the Gamma Correction effect (EffectId 26).
+typedef struct GammaCorrectionSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t value EFFECT_SETTINGS_DEFAULT(100);  ///< Gamma factor in hundredths: 1 to 500, 100 is neutral.
+} GammaCorrectionSettings;
+EFFECT_SETTINGS_SIZE(GammaCorrectionSettings, 8);
 
 /// Settings of the Mosaic effect (EffectId 27).
-struct MosaicSettings {
-    std::int32_t enabled;      ///< 0 or 1; default 1.
-    std::int32_t mosaicSize;   ///< 1 to 64 pixels; default 1.
-    std::int32_t areaEnabled;  ///< 0 or 1; default 0.
-    std::int32_t left;         ///< The area: edges in pixels of the source video; default (0, 0, 1, 1).
-    std::int32_t top;
-    std::int32_t right;
-    std::int32_t bottom;
-};
-static_assert(sizeof(MosaicSettings) == 28);
+typedef struct MosaicSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
+    int32_t mosaicSize EFFECT_SETTINGS_DEFAULT(1);   ///< 1 to 64 pixels.
+    int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
+    int32_t top EFFECT_SETTINGS_DEFAULT(0);
+    int32_t right EFFECT_SETTINGS_DEFAULT(1);
+    int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
+} MosaicSettings;
+EFFECT_SETTINGS_SIZE(MosaicSettings, 28);
 
 /// Settings of the Unsharp Mask effect (EffectId 28).
-struct UnsharpMaskSettings {
-    std::int32_t enabled;    ///< 0 or 1; default 1.
-    std::int32_t amount;     ///< 0 to 500; default 250.
-    std::int32_t radius;     ///< 1 to 100 pixels; default 1.
-    std::int32_t threshold;  ///< 0 to 255; default 0.
-};
-static_assert(sizeof(UnsharpMaskSettings) == 16);
+typedef struct UnsharpMaskSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);    ///< 0 or 1.
+    int32_t amount EFFECT_SETTINGS_DEFAULT(250);   ///< 0 to 500.
+    int32_t radius EFFECT_SETTINGS_DEFAULT(1);     ///< 1 to 100 pixels.
+    int32_t threshold EFFECT_SETTINGS_DEFAULT(0);  ///< 0 to 255.
+} UnsharpMaskSettings;
+EFFECT_SETTINGS_SIZE(UnsharpMaskSettings, 16);
 
 /// Settings of the Video Rotation effect (EffectId 29). An angle that is no choice is set to 0 as soon as the dialog
 /// opens, even if it is then cancelled.
-struct VideoRotationSettings {
-    std::int32_t enabled;  ///< 0 or 1; default 1.
-    std::int32_t reverse;  ///< 0 or 1; default 0.
-    std::int32_t flip;     ///< 0 or 1; default 0.
-    std::int32_t angle;    ///< 0, 90, 180 or 270 degrees; default 0.
-};
-static_assert(sizeof(VideoRotationSettings) == 16);
+typedef struct VideoRotationSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
+    int32_t reverse EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
+    int32_t flip EFFECT_SETTINGS_DEFAULT(0);     ///< 0 or 1.
+    int32_t angle EFFECT_SETTINGS_DEFAULT(0);    ///< 0, 90, 180 or 270 degrees.
+} VideoRotationSettings;
+EFFECT_SETTINGS_SIZE(VideoRotationSettings, 16);
 
 /// Settings of the Audio Chorus effect (EffectId 30).
-struct AudioChorusSettings {
-    std::int32_t enabled;        ///< 0 or 1; default 1.
-    std::int32_t combineWetDry;  ///< 0 or 1; comes back as it was.
-    std::int32_t dryMix;         ///< -100 to 100 per cent; default 70.
-    std::int32_t wetMix;         ///< -100 to 100 per cent; default 50.
-    std::int32_t delay;          ///< 0 to 500 milliseconds; default 500.
-    std::int32_t feedback;       ///< -100 to 100 per cent; default 25.
-    std::int32_t stereo;         ///< 0 to 180 degrees; default 90.
-};
-static_assert(sizeof(AudioChorusSettings) == 28);
+typedef struct AudioChorusSettings {
+    int32_t enabled EFFECT_SETTINGS_DEFAULT(1);        ///< 0 or 1.
+    int32_t combineWetDry EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1; comes back as it was.
+    int32_t dryMix EFFECT_SETTINGS_DEFAULT(70);        ///< -100 to 100 per cent.
+    int32_t wetMix EFFECT_SETTINGS_DEFAULT(50);        ///< -100 to 100 per cent.
+    int32_t delay EFFECT_SETTINGS_DEFAULT(500);        ///< 0 to 500 milliseconds.
+    int32_t feedback EFFECT_SETTINGS_DEFAULT(25);      ///< -100 to 100 per cent.
+    int32_t stereo EFFECT_SETTINGS_DEFAULT(90);        ///< 0 to 180 degrees.
+} AudioChorusSettings;
+EFFECT_SETTINGS_SIZE(AudioChorusSettings, 28);
 
 /// Results of ShowSettingsDialog.
-inline constexpr std::int32_t kSettingsNotShown = 0;   ///< No record, or no such effect: nothing was shown.
-inline constexpr std::int32_t kSettingsAccepted = 1;   ///< OK was pressed: the record holds the new values.
-inline constexpr std::int32_t kSettingsCancelled = 2;  ///< Cancel, Esc, close button: the record is as opening left it.
-inline constexpr std::int32_t kSettingsNotCreated = -1;  ///< The dialog's window could not be created.
+enum {
+    kSettingsNotCreated = -1,  ///< The dialog's window could not be created.
+    kSettingsNotShown = 0,     ///< No record, or no such effect: nothing was shown.
+    kSettingsAccepted = 1,     ///< OK was pressed: the record holds the new values.
+    kSettingsCancelled = 2,    ///< Cancel, Esc, close button: the record is as opening left it.
+};
 
-/// Shows the settings dialog of one effect and returns when the user has closed it.
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// Shows the settings dialog of one effect and returns when the user has closed it. C++ has a call that can't be given
+/// another effect's record: effect_settings::ShowSettings.
 ///
 /// Call it on the thread that runs the host's windows, never on two threads at once and not again
 /// before it has returned. The thread's active window becomes the dialog's owner: it is disabled
 /// while the dialog is open and active again afterwards. The calling thread must have COM
 /// initialised if the host's or the filters' objects need that; the library itself does not.
 ///
-/// @param host         Address of the host's IMediaHost pointer; must be valid. The interface pointer behind
-///                     it may be null: the dialog then opens without a filter and without a preview. The
-///                     library borrows the host for the call and neither adds nor releases a reference to it.
+/// @param host         Address of the host's IMediaHost pointer; must be valid. The library borrows the host for
+///                     the call and neither adds nor releases a reference to it. The interface pointer behind the
+///                     address may be null: a message box then says that the filter could not be added, as it does
+///                     when a host does not have the filter; once that is closed the dialog works without a filter
+///                     and without a preview.
 /// @param effectId     The effect. Any number outside 1 to 30 gives kSettingsNotShown.
 /// @param videoWidth   Width of the source video in pixels.
 /// @param videoHeight  Height of the source video in pixels.
 /// @param frameWidth   Width in pixels of the frames that the filter processes. Coordinates and sizes that the
-///                     user gives in source pixels reach the filter as x * frameWidth / videoWidth, truncated.
+///                     user gives in source pixels reach the filter as x * frameWidth / videoWidth, truncated,
+///                     where effect_filters.h speaks of pixels of the processed frame.
 /// @param frameHeight  Height in pixels of the frames that the filter processes, used likewise.
 /// @param settings     The caller's record for this effect, owned by the caller and valid until the call
 ///                     returns. Null gives kSettingsNotShown.
 /// @return One of the kSettings values above.
-extern "C" std::int32_t WINAPI ShowSettingsDialog(IMediaHost** host, EffectId effectId, std::int32_t videoWidth,
-                                                  std::int32_t videoHeight, std::int32_t frameWidth,
-                                                  std::int32_t frameHeight, EffectSettingsRecord* settings);
+int32_t WINAPI ShowSettingsDialog(IMediaHost** host, EffectId effectId, int32_t videoWidth, int32_t videoHeight,
+                                  int32_t frameWidth, int32_t frameHeight, EffectSettingsRecord* settings);
 
 /// The function's type, for hosts that look it up: GetProcAddress(library, "ShowSettingsDialog").
-using ShowSettingsDialogFunction = decltype(&ShowSettingsDialog);
+typedef int32_t(WINAPI* ShowSettingsDialogFunction)(IMediaHost** host, EffectId effectId, int32_t videoWidth,
+                                                    int32_t videoHeight, int32_t frameWidth, int32_t frameHeight,
+                                                    EffectSettingsRecord* settings);
+
+#ifdef __cplusplus
+}
+
+namespace effect_settings {
+
+/// The effect to which a record belongs: EffectOf<WaveSettings>::kId. No other type has one.
+template <typename Record>
+struct EffectOf;
+
+#define EFFECT_SETTINGS_EFFECT_OF(name, number)         \
+    template <>                                         \
+    struct EffectOf<name##Settings> {                   \
+        static constexpr EffectId kId = EffectId::name; \
+    };
+EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_EFFECT_OF)
+
+/// The source video's size in pixels.
+struct VideoSize {
+    int32_t width;
+    int32_t height;
+};
+
+/// The size in pixels of the frames that the filter processes.
+struct FrameSize {
+    int32_t width;
+    int32_t height;
+};
+
+enum class Result : int32_t {
+    NotCreated = kSettingsNotCreated,
+    NotShown = kSettingsNotShown,
+    Accepted = kSettingsAccepted,
+    Cancelled = kSettingsCancelled,
+};
+
+/// Shows the dialog of the effect to which the record belongs. All else is as ShowSettingsDialog has it.
+/// @param host  May be null.
+/// @param show  Given by hosts that look the function up instead of linking the library.
+template <typename Record, EffectId Id = EffectOf<Record>::kId>
+Result ShowSettings(IMediaHost* host, VideoSize video, FrameSize frame, Record& record,
+                    ShowSettingsDialogFunction show = &ShowSettingsDialog) {
+    return static_cast<Result>(show(&host, Id, video.width, video.height, frame.width, frame.height, &record));
+}
+
+}  // namespace effect_settings
+#endif
+
+#undef EFFECT_SETTINGS_ID
+#undef EFFECT_SETTINGS_DEFAULT
+#undef EFFECT_SETTINGS_SIZE
+#undef EFFECT_SETTINGS_COUNT
+#undef EFFECT_SETTINGS_EFFECT_OF
 
 #endif

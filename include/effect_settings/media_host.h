@@ -1,5 +1,5 @@
 // What a host implements: its player object and its lists of processors, as the settings dialogs
-// call them. Compiles alone, in C++17 and later.
+// call them. Compiles alone, as C++11 and later.
 #ifndef EFFECT_SETTINGS_MEDIA_HOST_H
 #define EFFECT_SETTINGS_MEDIA_HOST_H
 
@@ -22,12 +22,23 @@
 //   EnableVideoPreview(0); then the filter is detached: GetVideoProcessors, GetActiveVideoProcessors,
 //   active.FindByMoniker and, if it is there, active.RemoveAt.
 //
-// The audio effect uses the audio lists, kAudioProcessorKind and EnableVideoPreview(0).
+// The audio effect uses the audio lists and kAudioProcessorKind, and has some calls in another order: it opens with
+//   SetPreviewWindow(panel), SetPreviewOption(0), SetPreviewMode(0), EnableVideoPreview(0), and closes with
+//   StopPreview, ResetPreview, SetPreviewRange(0, 0), SetPreviewWindow(0), EnableVideoPreview(0), SetPreviewMode(1).
+//
+// When attaching fails (no list, or the list of all processors does not hold the filter), a message box says so and
+// the dialog stays open without a filter: RefreshPreview does not come, the calls of closing do.
 //
 // Every call comes on the thread that called ShowSettingsDialog, from inside that call. Results are
 // looked at only where an operation says so. Slots are places in the interface's function table,
 // counted from 0; the reserved ones are never called by the library. A class that implements an
 // interface overrides the named operations and may leave everything else as it stands here.
+
+#ifdef __cpp_inline_variables
+#define EFFECT_SETTINGS_CONSTANT inline constexpr
+#else
+#define EFFECT_SETTINGS_CONSTANT constexpr
+#endif
 
 #define EFFECT_SETTINGS_RESERVED_SLOT(slot) \
     virtual HRESULT STDMETHODCALLTYPE Reserved##slot() { return E_NOTIMPL; }
@@ -66,13 +77,15 @@ struct IProcessorList : IHostDispatch {
     virtual HRESULT STDMETHODCALLTYPE RemoveAt(LONG index) = 0;
 
     /// Slot 13. Appends a processor to the list. The list takes its own reference.
+    /// @param item    What GetItem of the host's list of all processors gave, and nothing else. It comes without its
+    ///                moniker: a host that needs it later (FindByMoniker on this list) keeps it in the item's object.
     /// @param option  Always 0.
     virtual HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) = 0;
 };
 
 /// The chain selectors of IMediaHost::GetProcessorObject.
-inline constexpr LONG kVideoProcessorKind = 0x200;
-inline constexpr LONG kAudioProcessorKind = 0x100;
+EFFECT_SETTINGS_CONSTANT LONG kVideoProcessorKind = 0x200;
+EFFECT_SETTINGS_CONSTANT LONG kAudioProcessorKind = 0x100;
 
 /// The host's player object, as a settings dialog sees it.
 struct IMediaHost : IHostDispatch {
@@ -105,8 +118,10 @@ struct IMediaHost : IHostDispatch {
 
     /// Slot 23. Names the window that the host draws its preview into.
     /// @param window  A window handle in its 32-bit form (widen it with LongToHandle): a panel of the dialog
-    ///                when it opens, 0 when it closes. The host draws into the window's client area and leaves
-    ///                the window itself alone; the dialog destroys it after the 0.
+    ///                when it opens, 0 when it closes; the dialog destroys it after the 0. The panel is 240
+    ///                pixels high and 497, 557 or 797 wide (3 less than the dialog). The library makes it black
+    ///                whenever the system asks for its background, and nothing more: the picture is the host's, who
+    ///                draws it into the client area and leaves the window itself alone.
     virtual HRESULT STDMETHODCALLTYPE SetPreviewWindow(LONG window) = 0;
 
     EFFECT_SETTINGS_RESERVED_SLOT(24)
@@ -204,6 +219,7 @@ struct IMediaHost : IHostDispatch {
     virtual HRESULT STDMETHODCALLTYPE GetProcessorObject(LONG kind, IUnknown** object) = 0;
 };
 
+#undef EFFECT_SETTINGS_CONSTANT
 #undef EFFECT_SETTINGS_RESERVED_SLOT
 
 #endif
