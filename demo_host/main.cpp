@@ -13,12 +13,11 @@
 #include <shellapi.h>
 
 #include "demo_host/effects.h"
-#include "demo_host/kit_gallery.h"
+#include "demo_host/gdi_plus.h"
 #include "demo_host/player.h"
 #include "demo_host/screenshot.h"
 #include "demo_host/trace.h"
 #include "effect_settings/effect_settings.h"
-#include "skin/gdi_plus.h"
 
 namespace {
 
@@ -39,7 +38,6 @@ constexpr char kHelp[] =
     "  --screenshot FILE  write a picture of the dialog and close it\n"
     "  --gallery FOLDER   write a picture of every dialog, and one with \"Enable\" off\n"
     "  --trace            print every call on host and filter\n"
-    "  --kit              show the gallery of controls instead of a dialog\n"
     "  --help             this text";
 
 struct Options {
@@ -49,7 +47,6 @@ struct Options {
     std::wstring gallery;
     bool trace = false;
     bool list = false;
-    bool kit = false;
     bool help = false;
 };
 
@@ -92,8 +89,6 @@ std::optional<Options> ParseCommandLine() {
             options.list = true;
         } else if (argument == L"--trace") {
             options.trace = true;
-        } else if (argument == L"--kit") {
-            options.kit = true;
         } else if (argument == L"--help") {
             options.help = true;
         } else if (argument == L"--media") {
@@ -227,7 +222,6 @@ int Run(const Options& options) {
         return kExitOk;
     }
     if (options.trace) EnableTrace();
-    if (options.kit) return ShowKitGallery(options.pictures.empty() ? L"" : options.pictures.front());
     std::unique_ptr<IClip> clip = OpenClip(options);
     if (!clip) return Complain(L"can't read a picture from '" + options.media + L"'");
     const int exitCode = options.gallery.empty() ? ShowDialog(options, std::move(clip)) : WriteGallery(options);

@@ -1,8 +1,6 @@
 #include "demo_host/screenshot.h"
 
-#include <objidl.h>
-
-#include "skin/drawing.h"
+#include "demo_host/gdi_plus.h"
 
 namespace {
 
@@ -11,14 +9,18 @@ constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x
 }  // namespace
 
 bool SaveScreenOf(HWND window, const std::wstring& file) {
-    CRect place;
-    ::GetWindowRect(window, place);
-    const CBorrowedDC screen(nullptr);
-    const CBitmapHandle picture{::CreateCompatibleBitmap(screen, place.Width(), place.Height())};
+    RECT place{};
+    ::GetWindowRect(window, &place);
+    const int width = place.right - place.left;
+    const int height = place.bottom - place.top;
+    Gdiplus::Bitmap bitmap(width, height, PixelFormat32bppRGB);
     {
-        const CMemoryDC dc(screen, picture.Get());
-        ::BitBlt(dc, 0, 0, place.Width(), place.Height(), screen, place.left, place.top, SRCCOPY);
+        Gdiplus::Graphics graphics(&bitmap);
+        const HDC picture = graphics.GetHDC();
+        const HDC screen = ::GetDC(nullptr);
+        ::BitBlt(picture, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
+        ::ReleaseDC(nullptr, screen);
+        graphics.ReleaseHDC(picture);
     }
-    Gdiplus::Bitmap bitmap(picture.Get(), nullptr);
     return bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }

@@ -1,14 +1,19 @@
-#include "demo_host/kit_gallery.h"
-
+// A window with every control of the kit in every state that it can have.
+#include <cstdio>
+#include <cwchar>
 #include <deque>
 #include <memory>
+#include <string>
 
 #include <afxwin.h>
 
-#include "demo_host/screenshot.h"
+#include <shellapi.h>
+
 #include "skin/color_swatch.h"
 #include "skin/combo_list_box.h"
+#include "skin/drawing.h"
 #include "skin/fonts.h"
+#include "skin/gdi_plus.h"
 #include "skin/hint_tip.h"
 #include "skin/radio_group.h"
 #include "skin/skin_check_box.h"
@@ -41,7 +46,23 @@ constexpr UINT kStepMs = 500;
 
 constexpr LPCWSTR kTip = L"This tip goes after two seconds.";
 
+constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
 enum Column { kNormal, kHover, kPressed, kDisabled, kLong };
+
+/// Saves what the screen shows where a window is, pop-ups over it included.
+bool SaveScreenOf(HWND window, const std::wstring& file) {
+    CRect place;
+    ::GetWindowRect(window, place);
+    const CBorrowedDC screen(nullptr);
+    const CBitmapHandle picture{::CreateCompatibleBitmap(screen, place.Width(), place.Height())};
+    {
+        const CMemoryDC dc(screen, picture.Get());
+        ::BitBlt(dc, 0, 0, place.Width(), place.Height(), screen, place.left, place.top, SRCCOPY);
+    }
+    Gdiplus::Bitmap bitmap(picture.Get(), nullptr);
+    return bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+}
 
 CRect Cell(int column, int row) {
     const int x = kFirstColumn + column * kColumnWidth;
@@ -276,8 +297,23 @@ LRESULT CKitGalleryDlg::OnSliderChange(WPARAM wParam, LPARAM) {
 
 }  // namespace
 
-int ShowKitGallery(const std::wstring& screenshot) {
+int main() {
+    int count = 0;
+    LPWSTR* arguments = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    const bool hasPicture = count == 3 && std::wcscmp(arguments[1], L"--screenshot") == 0;
+    const std::wstring screenshot = hasPicture ? arguments[2] : L"";
+    ::LocalFree(arguments);
+    if (count > 1 && !hasPicture) {
+        std::fputs("usage: kit_gallery [--screenshot FILE]   writes a picture of the window and closes it\n", stderr);
+        return 2;
+    }
+    ULONG_PTR gdiplus = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    if (Gdiplus::GdiplusStartup(&gdiplus, &input, nullptr) != Gdiplus::Ok) return 1;
     const INT_PTR result = CKitGalleryDlg(screenshot).DoModal();
     ReleaseSharedDrawing();
-    return result == IDOK || result == IDCANCEL ? 0 : 1;
+    Gdiplus::GdiplusShutdown(gdiplus);
+    if (result == IDOK || result == IDCANCEL) return 0;
+    std::fputs("kit_gallery: the window was not shown, or its picture could not be written\n", stderr);
+    return 1;
 }
