@@ -7,6 +7,8 @@
 
 #include <winternl.h>
 
+#include "support/watchdog.h"
+
 namespace {
 
 constexpr UINT kSettled = WM_APP + 1;
@@ -71,6 +73,7 @@ void WaitForSignal(UINT message) {
     ::PostMessageW(g_signalWindow, message, reinterpret_cast<WPARAM>(settled), 0);
     if (::WaitForSingleObject(settled, kPatienceMs) != WAIT_OBJECT_0) ADD_FAILURE() << "the dialog's thread hangs";
     ::CloseHandle(settled);
+    ReportProgress();
 }
 
 void CloseWhateverIsOpen() {
