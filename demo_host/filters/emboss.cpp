@@ -1,4 +1,6 @@
+// Emboss: a relief in grey, or (as a bump map) in the colours of the picture.
 #include "demo_host/filters/filter_base.h"
+#include "demo_host/filters/relief.h"
 
 namespace {
 
@@ -11,6 +13,19 @@ public:
     }
 
 private:
+    void Render(const FrameView& frame, unsigned) override {
+        const CRelief relief(frame);
+        const CEmbosser embosser(m_params.lightAngle, m_params.elevation, m_params.depth);
+        for (int y = 0; y < frame.height; ++y) {
+            for (int x = 0; x < frame.width; ++x) {
+                const int shade = embosser.Shade(relief, x, y);
+                std::uint32_t& pixel = frame.Row(y)[x];
+                pixel =
+                    PerChannel(m_params.emboss ? 0x808080 : pixel, [shade](int channel) { return channel + shade; });
+            }
+        }
+    }
+
     EmbossParams m_params{};
 };
 

@@ -1,6 +1,13 @@
+// Fire: what moves burns, with flames in any of nine directions.
+#include <array>
+
+#include "demo_host/filters/hue.h"
 #include "demo_host/filters/motion_filter.h"
+#include "demo_host/filters/random.h"
 
 namespace {
+
+constexpr int kStepsPerFrame = 4;
 
 class CFireFilter : public CReferenceFilter<IEffectFire, IID_IEffectFire, EffectId::Fire> {
 public:
@@ -13,13 +20,108 @@ public:
     STDMETHODIMP put_ShowBackground(VARIANT_BOOL show) override { return Put(__func__, m_showBackground, show); }
     STDMETHODIMP put_NoReference(VARIANT_BOOL on) override { return Put(__func__, m_motion.black, on); }
 
+    void Restart() override {
+        m_motion.Reset();
+        m_heat.clear();
+    }
+
 private:
+    void Render(const FrameView& frame, unsigned number) override {
+        const std::vector<std::uint8_t>& motion = m_motion.Compare(frame);
+        m_columns = (frame.width + 1) / 2;
+        m_rows = (frame.height + 1) / 2;
+        m_heat.resize(static_cast<std::size_t>(m_columns) * m_rows);
+        CRandom random(number);
+        for (int step = 0; step < kStepsPerFrame; ++step) {
+            Kindle(motion, frame);
+            Spread(random);
+        }
+        const std::array<std::uint32_t, 256> palette = Palette();
+        std::size_t place = 0;
+        for (int y = 0; y < frame.height; ++y) {
+            for (int x = 0; x < frame.width; ++x, ++place) {
+                std::uint32_t& pixel = frame.Row(y)[x];
+                const int heat = m_heat[static_cast<std::size_t>(y / 2) * m_columns + x / 2];
+                const bool shown = m_showBackground || (motion[place] && !m_entireObject);
+                pixel = Mix(shown ? pixel : 0, palette[static_cast<std::size_t>(heat)], (std::min)(2 * heat, 256));
+            }
+        }
+    }
+
+    /// What moves is as hot as can be: all of it, or its rim.
+    void Kindle(const std::vector<std::uint8_t>& motion, const FrameView& frame) {
+        const auto moves = [&](int x, int y) {
+            x = std::clamp(2 * x, 0, frame.width - 1);
+            y = std::clamp(2 * y, 0, frame.height - 1);
+            return motion[static_cast<std::size_t>(y) * frame.width + x] != 0;
+        };
+        for (int y = 0; y < m_rows; ++y) {
+            for (int x = 0; x < m_columns; ++x) {
+                if (!moves(x, y)) continue;
+                const bool inside = moves(x - 1, y) && moves(x + 1, y) && moves(x, y - 1) && moves(x, y + 1);
+                if (m_entireObject || !inside) m_heat[static_cast<std::size_t>(y) * m_columns + x] = 255;
+            }
+        }
+    }
+
+    /// Each cell takes the heat of those that the flames come from, less what decays on the way.
+    void Spread(CRandom& random) {
+        struct Wind {
+            std::int32_t direction;
+            int dx;
+            int dy;
+        };
+        constexpr Wind kWinds[] = {
+            {kFlameNorth, 0, -1},     {kFlameSouth, 0, 1},       {kFlameEast, 1, 0},      {kFlameWest, -1, 0},
+            {kFlameNorthEast, 1, -1}, {kFlameNorthWest, -1, -1}, {kFlameSouthEast, 1, 1}, {kFlameSouthWest, -1, 1}};
+        const std::vector<std::uint8_t> before = m_heat;
+        const auto heat = [&](int x, int y) {
+            const bool inside = x >= 0 && x < m_columns && y >= 0 && y < m_rows;
+            return inside ? int{before[static_cast<std::size_t>(y) * m_columns + x]} : 0;
+        };
+        const int decay = std::clamp(m_decay, 1, 100);
+        const std::int32_t directions = m_directions & kFlameGlow ? 0xFF : m_directions;
+        auto cell = m_heat.begin();
+        for (int y = 0; y < m_rows; ++y) {
+            for (int x = 0; x < m_columns; ++x, ++cell) {
+                int hottest = 0;
+                for (const auto& [direction, dx, dy] : kWinds) {
+                    if (!(directions & direction)) continue;
+                    // From up the wind and from both sides of it, so that flames flicker to a point.
+                    const int upX = x - dx;
+                    const int upY = y - dy;
+                    const int arriving = (2 * heat(upX, upY) + heat(upX - dy, upY + dx) + heat(upX + dy, upY - dx)) / 4;
+                    hottest = (std::max)(hottest, arriving);
+                }
+                if (hottest) hottest -= 1 + random.Below(decay + 1);
+                *cell = static_cast<std::uint8_t>((std::max)(hottest, 0));
+            }
+        }
+    }
+
+    /// From dark over a colour to a bright one; an offset of 660 gives red and yellow.
+    std::array<std::uint32_t, 256> Palette() const {
+        const int hue = (std::clamp(m_colorsOffset, 0, 1000) - 660) * 360 / 1000;
+        const int colors = 2 + std::clamp(m_gradient, 0, 100) * 62 / 100;
+        std::array<std::uint32_t, 256> palette{};
+        for (int heat = 0; heat < 256; ++heat) {
+            const int level = heat * colors / 256 * 255 / (colors - 1);
+            const std::uint32_t color = HueColor(hue + level * 55 / 255);
+            const std::uint32_t lit = level < 100 ? Mix(0, color, level * 256 / 100) : color;
+            palette[static_cast<std::size_t>(heat)] = level > 200 ? Mix(lit, 0xFFFFFF, (level - 200) * 3) : lit;
+        }
+        return palette;
+    }
+
     std::int32_t m_directions = 0;
     std::int32_t m_decay = 0;
     std::int32_t m_colorsOffset = 0;
     std::int32_t m_gradient = 0;
     bool m_entireObject = false;
     bool m_showBackground = false;
+    int m_columns = 0;  // Of cells of heat, each over 2 x 2 pixels.
+    int m_rows = 0;
+    std::vector<std::uint8_t> m_heat;
 };
 
 }  // namespace

@@ -62,10 +62,25 @@ constexpr std::uint32_t MakePixel(int red, int green, int blue) {
 /// The brightness of a pixel, 0 to 255, by BT.601: 0.299 R + 0.587 G + 0.114 B.
 constexpr int Luma(std::uint32_t pixel) { return (77 * Red(pixel) + 150 * Green(pixel) + 29 * Blue(pixel)) >> 8; }
 
-/// From a (weight 0) to b (weight 256).
+/// From a (weight 0) to b (weight 256). Red and blue are computed side by side, with room for each other's carry.
 constexpr std::uint32_t Mix(std::uint32_t a, std::uint32_t b, int weight) {
-    const auto mix = [weight](int from, int to) { return from + ((to - from) * weight + 128) / 256; };
-    return MakePixel(mix(Red(a), Red(b)), mix(Green(a), Green(b)), mix(Blue(a), Blue(b)));
+    const auto toB = static_cast<std::uint32_t>(weight);
+    const std::uint32_t toA = 256 - toB;
+    const std::uint32_t redAndBlue = (a & 0xFF00FF) * toA + (b & 0xFF00FF) * toB + 0x800080;
+    const std::uint32_t green = (a & 0x00FF00) * toA + (b & 0x00FF00) * toB + 0x008000;
+    return (redAndBlue >> 8 & 0xFF00FF) | (green >> 8 & 0x00FF00);
+}
+
+/// The same change to all three channels: change(0 to 255) may give any number.
+template <typename Change>
+std::uint32_t PerChannel(std::uint32_t pixel, Change change) {
+    return MakePixel(change(Red(pixel)), change(Green(pixel)), change(Blue(pixel)));
+}
+
+/// The same for two pixels at a time.
+template <typename Combine>
+std::uint32_t PerChannel(std::uint32_t a, std::uint32_t b, Combine combine) {
+    return MakePixel(combine(Red(a), Red(b)), combine(Green(a), Green(b)), combine(Blue(a), Blue(b)));
 }
 
 /// Changes each pixel on its own.

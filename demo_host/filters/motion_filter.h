@@ -8,7 +8,9 @@
 /// Compares frames with a reference: the first one since Reset, a black one, or (without either) the one before.
 class CMotionDetector {
 public:
-    std::int32_t threshold = 50;  ///< 1 to 100: the least change of a channel that counts, of 255.
+    explicit CMotionDetector(std::int32_t least = 50) : threshold(least) {}
+
+    std::int32_t threshold;  ///< 1 to 100: the least change of a channel that counts, of 255.
     bool firstFrame = false;
     bool black = false;
 

@@ -1,3 +1,7 @@
+// Unsharp Mask: takes each pixel further away from the blurred picture.
+#include <cstdlib>
+
+#include "demo_host/filters/box_blur.h"
 #include "demo_host/filters/filter_base.h"
 
 namespace {
@@ -11,6 +15,19 @@ public:
     STDMETHODIMP put_Amount(LONG amount) override { return Put(__func__, m_amount, amount); }
 
 private:
+    void Render(const FrameView& frame, unsigned) override {
+        const Frame blurred = BoxBlur(frame, std::clamp(m_radius, 1, 100));
+        const int amount = std::clamp(m_amount, 0, 500);
+        const int threshold = std::clamp(m_threshold, 0, 255);
+        auto mean = blurred.pixels.begin();
+        ForEachPixel(frame, [&](std::uint32_t pixel) {
+            return PerChannel(pixel, *mean++, [amount, threshold](int sharp, int soft) {
+                const int difference = sharp - soft;
+                return std::abs(difference) < threshold ? sharp : sharp + difference * amount / 100;
+            });
+        });
+    }
+
     std::int32_t m_threshold = 0;
     std::int32_t m_radius = 0;
     std::int32_t m_amount = 0;
