@@ -23,9 +23,9 @@ public:
     }
 
     SIZE VideoSize() const override { return m_size; }
+    SIZE FrameSize() const override { return {m_frame.width, m_frame.height}; }
 
     unsigned Milliseconds() const override { return (std::max)(m_duration, 1U); }
-
     const Frame& FrameAt(unsigned milliseconds) override {
         if (m_duration == 0) return m_frame;
         unsigned left = milliseconds % m_duration;

@@ -12,6 +12,8 @@ class IClip {
 public:
     virtual ~IClip() = default;
     virtual SIZE VideoSize() const = 0;
+    /// Of the frames, which may be smaller.
+    virtual SIZE FrameSize() const = 0;
     /// How long it plays; at least 1.
     virtual unsigned Milliseconds() const = 0;
     /// The frame at a time from the clip's start; the clip plays in a loop.

@@ -27,6 +27,8 @@ bool WriteAll(const std::wstring& name, const std::string& contents) {
 
 }  // namespace
 
+bool FileExists(const std::wstring& name) { return ::GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES; }
+
 std::optional<std::string> ReadWholeFile(const std::wstring& name) {
     const FileHandle file = OpenFileFor(name, GENERIC_READ, OPEN_EXISTING);
     LARGE_INTEGER size{};

@@ -1,8 +1,7 @@
-// The demo host: plays a clip and opens the settings dialog of an effect over it.
+// The demo host: a player in which every effect can be seen and one heard, and its command line.
 #include <fcntl.h>
 #include <io.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -12,57 +11,55 @@
 
 #include <shellapi.h>
 
-#include "demo_host/effects.h"
+#include "demo_host/files.h"
 #include "demo_host/gdi_plus.h"
-#include "demo_host/player.h"
-#include "demo_host/screenshot.h"
+#include "demo_host/messages.h"
+#include "demo_host/photographer.h"
+#include "demo_host/player_window.h"
 #include "demo_host/trace.h"
-#include "effect_settings/effect_settings.h"
 
 namespace {
+
+using effect_settings::Result;
 
 constexpr int kExitOk = 0;
 constexpr int kExitFailed = 1;
 constexpr int kExitUsage = 2;
 constexpr int kExitLeak = 3;
 
-constexpr int kFramesBeforePicture = 25;
-constexpr UINT kPictureTimerMs = 200;
-constexpr LPARAM kOnEnable = MAKELPARAM(40, 305);
-
 constexpr char kHelp[] =
     "usage: demo [EFFECT] [options]\n"
-    "  EFFECT             name or number; gamma-correction without one\n"
+    "  EFFECT             name or number: opens the effect's dialog over the player, and ends with it;\n"
+    "                     without one the player runs until it is closed\n"
     "  --list             list the effects\n"
-    "  --media FILE       play a picture (PNG, JPEG, BMP, GIF) instead of the generated scene\n"
-    "  --screenshot FILE  write a picture of the dialog and close it\n"
-    "  --gallery FOLDER   write a picture of every dialog, and one with \"Enable\" off\n"
+    "  --media FILE       play a picture (PNG, JPEG, BMP, GIF) instead of the generated scene,\n"
+    "                     or a sound (WAV of 16-bit PCM) instead of the generated tune\n"
+    "  --settings FILE    keep the effects' values in a text file between runs\n"
+    "  --screenshot FILE  write a picture of the dialog, or of the player, and close it\n"
+    "  --gallery FOLDER   write a picture of every dialog with its effect at work\n"
+    "  --render FILE      write the sound as audio-chorus makes it to a WAV file, and show nothing\n"
     "  --trace            print every call on host and filter\n"
     "  --help             this text";
+
+// Values at which each effect can be seen at a glance; the defaults of some change nothing.
+constexpr char kGallerySettings[] =
+    "color.hue = 100\n"
+    "color.saturation = 40\n"
+    "gamma-correction.value = 260\n"
+    "mosaic.mosaicSize = 16\n"
+    "video-rotation.angle = 180\n";
 
 struct Options {
     const Effect* effect = nullptr;
     std::wstring media;
-    std::vector<std::wstring> pictures;  ///< Of the dialog; the second with "Enable" clicked.
+    std::wstring settings;
+    std::wstring picture;
     std::wstring gallery;
+    std::wstring render;
     bool trace = false;
     bool list = false;
     bool help = false;
 };
-
-/// The C library's own conversion of wide text ends at the first letter that its locale lacks.
-std::string Utf8(const std::wstring& text) {
-    std::string bytes(3 * text.size(), '\0');  // No UTF-16 unit becomes more than three bytes.
-    bytes.resize(static_cast<std::size_t>(::WideCharToMultiByte(
-        CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(), static_cast<int>(bytes.size()), nullptr,
-        nullptr)));
-    return bytes;
-}
-
-int Complain(const std::wstring& what) {
-    std::fprintf(stderr, "demo: %s\n", Utf8(what).c_str());
-    return kExitUsage;
-}
 
 /// Wine's programs are given the paths of the system around it, too.
 std::wstring NativePath(const std::wstring& path) {
@@ -78,48 +75,57 @@ std::optional<Options> ParseCommandLine() {
     ::LocalFree(raw);
 
     Options options;
+    const struct {
+        const wchar_t* name;
+        bool Options::*flag;
+        std::wstring Options::*file;
+    } known[] = {
+        {L"--list", &Options::list, nullptr},       {L"--trace", &Options::trace, nullptr},         {L"--help", &Options::help, nullptr},
+        {L"--media", nullptr, &Options::media},     {L"--settings", nullptr, &Options::settings},
+        {L"--gallery", nullptr, &Options::gallery}, {L"--screenshot", nullptr, &Options::picture},
+        {L"--render", nullptr, &Options::render},
+    };
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::wstring& argument = arguments[index];
-        const auto takeFile = [&](std::wstring& file) {
-            if (++index < arguments.size()) file = NativePath(arguments[index]);
-            return !file.empty();
-        };
-        bool hasValue = true;
-        if (argument == L"--list") {
-            options.list = true;
-        } else if (argument == L"--trace") {
-            options.trace = true;
-        } else if (argument == L"--help") {
-            options.help = true;
-        } else if (argument == L"--media") {
-            hasValue = takeFile(options.media);
-        } else if (argument == L"--screenshot") {
-            std::wstring file;
-            hasValue = takeFile(file);
-            options.pictures = {file};
-        } else if (argument == L"--gallery") {
-            hasValue = takeFile(options.gallery);
-        } else if (argument.starts_with(L'-')) {
-            Complain(L"unknown option '" + argument + L"'; --help lists them");
-            return std::nullopt;
-        } else if (options.effect) {
-            Complain(L"one effect at a time, not '" + argument + L"' too");
-            return std::nullopt;
-        } else if (options.effect = FindEffect(argument); !options.effect) {
-            Complain(L"unknown effect '" + argument + L"'; --list names them");
-            return std::nullopt;
+        if (!argument.starts_with(L'-')) {
+            if (options.effect) {
+                Complain("one effect at a time, not '" + Utf8(argument) + "' too");
+                return std::nullopt;
+            }
+            options.effect = FindEffect(argument);
+            if (!options.effect) {
+                Complain("unknown effect '" + Utf8(argument) + "'; --list names them");
+                return std::nullopt;
+            }
+            continue;
         }
-        if (!hasValue) {
-            Complain(L"option '" + argument + L"' wants a file");
+        bool isKnown = false;
+        for (const auto& option : known) {
+            if (argument != option.name) continue;
+            isKnown = true;
+            if (option.flag) {
+                options.*option.flag = true;
+            } else if (++index < arguments.size() && !arguments[index].empty()) {
+                options.*option.file = NativePath(arguments[index]);
+            } else {
+                Complain("option '" + Utf8(argument) + "' wants a file");
+                return std::nullopt;
+            }
+            break;
+        }
+        if (!isKnown) {
+            Complain("unknown option '" + Utf8(argument) + "'; --help lists them");
             return std::nullopt;
         }
     }
-    if (!options.effect) options.effect = FindEffect(L"gamma-correction");
+    if (!options.render.empty() && !(options.effect && options.effect->IsAudio())) {
+        Complain("--render goes with audio-chorus");
+        return std::nullopt;
+    }
     return options;
 }
 
-void PrintRecord(const char* when, const Effect& effect, const std::vector<std::int32_t>& record) {
-    if (effect.fields.empty()) return;
+void PrintRecord(const char* when, const Effect& effect, const Record& record) {
     std::printf("%s:", when);
     for (std::size_t index = 0; index < effect.fields.size(); ++index) {
         std::printf(" %s=%d", effect.fields[index].name, record[index]);
@@ -127,89 +133,135 @@ void PrintRecord(const char* when, const Effect& effect, const std::vector<std::
     std::puts("");
 }
 
-const char* NameOf(std::int32_t result) {
+const char* NameOf(Result result) {
     switch (result) {
-        case kSettingsAccepted:
+        case Result::Accepted:
             return "OK";
-        case kSettingsCancelled:
+        case Result::Cancelled:
             return "cancelled";
-        case kSettingsNotCreated:
+        case Result::NotCreated:
             return "not created";
         default:
             return "not shown";
     }
 }
 
-// Takes pictures from inside the dialog's message loop, and closes the dialog after the last.
-struct Photographer {
-    const CPlayer* player = nullptr;
-    std::vector<std::wstring> files;  ///< Still to be written; between two of them "Enable" is clicked.
-    bool failed = false;
+/// What is played, and with which values.
+struct Session {
+    std::unique_ptr<IClip> clip;
+    Sound sound = MakeTune();
+    std::vector<EffectState> states = DefaultStates();
 };
-Photographer g_photographer;
 
-void CALLBACK TakePicture(HWND, UINT, UINT_PTR, DWORD) {
-    auto& [player, files, failed] = g_photographer;
-    const HWND dialog = player->Dialog();
-    if (files.empty() || !dialog || player->PreviewedFrames() < kFramesBeforePicture) return;
-    if (!SaveScreenOf(dialog, files.front())) {
-        Complain(L"the picture can't be written to '" + files.front() + L"'");
-        failed = true;
+/// Null, after a complaint, when a file can't be used.
+std::optional<Session> Prepare(const Options& options) {
+    Session session;
+    const bool isSound =
+        !options.render.empty() || options.media.ends_with(L".wav") || options.media.ends_with(L".WAV");
+    if (!options.media.empty() && isSound) {
+        std::string problem;
+        std::optional<Sound> sound = LoadWave(options.media, problem);
+        if (!sound) {
+            Complain("'" + Utf8(options.media) + "' " + problem);
+            return std::nullopt;
+        }
+        session.sound = std::move(*sound);
+    } else if (!options.media.empty()) {
+        session.clip = LoadClip(options.media);
+        if (!session.clip) {
+            Complain("can't read a picture from '" + Utf8(options.media) + "'");
+            return std::nullopt;
+        }
     }
-    files.erase(files.begin());
-    if (files.empty()) {
-        ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
-        return;
+    if (!session.clip) session.clip = MakeSceneClip();
+
+    std::string text = options.gallery.empty() ? "" : kGallerySettings;
+    std::string from = "the gallery's values";
+    if (!options.settings.empty() && FileExists(options.settings)) {
+        from = Utf8(options.settings);
+        const std::optional<std::string> read = ReadWholeFile(options.settings);
+        if (!read) {
+            Complain("can't read '" + from + "'");
+            return std::nullopt;
+        }
+        text = *read;
     }
-    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::PostMessageW(dialog, message, 0, kOnEnable);
+    const std::string problem = ParseSettings(text, session.states);
+    if (!problem.empty()) {
+        Complain(from + ", " + problem);
+        return std::nullopt;
+    }
+    return session;
 }
 
-int ShowDialog(const Options& options, std::unique_ptr<IClip> clip) {
-    const Effect& effect = *options.effect;
-    const ComPtr<CPlayer> player = Adopt(new CPlayer(std::move(clip)));
-    if (!player->Open()) {
-        Complain(L"the player's window can't be opened");
-        return kExitFailed;
-    }
-    g_photographer = {player.Get(), options.pictures};
-    const UINT_PTR timer = options.pictures.empty() ? 0 : ::SetTimer(nullptr, 0, kPictureTimerMs, TakePicture);
-
-    std::vector<std::int32_t> record;
-    for (const RecordField& field : effect.fields) record.push_back(field.initial);
-    PrintRecord("before", effect, record);
-    IMediaHost* host = player.Get();
-    const SIZE video = player->VideoSize();
-    const SIZE frame = player->FrameSize();
-    const std::int32_t result =
-        ShowSettingsDialog(&host, effect.id, video.cx, video.cy, frame.cx, frame.cy, record.data());
-    std::printf("result: %d (%s)\n", result, NameOf(result));
-    PrintRecord("after", effect, record);
-    if (timer) ::KillTimer(nullptr, timer);
-    player->Close();
-
-    const bool shown = result == kSettingsAccepted || result == kSettingsCancelled;
-    if (!shown) Complain(L"the dialog did not open");
-    for (const std::wstring& file : g_photographer.files) Complain(L"no picture was taken for '" + file + L"'");
-    return shown && g_photographer.files.empty() && !g_photographer.failed ? kExitOk : kExitFailed;
+/// Shows a dialog and tells how it went; takes a picture if a file is named.
+int ShowDialog(CPlayer& player, CPlayerWindow& window, const Effect& effect, const std::wstring& picture) {
+    std::optional<CPhotographer> photographer;
+    if (!picture.empty()) photographer.emplace(player, nullptr, picture);
+    const Result result = window.ShowSettings(effect);
+    std::printf("result: %d (%s)\n", static_cast<int>(result), NameOf(result));
+    const bool shown = result == Result::Accepted || result == Result::Cancelled;
+    if (!shown) Complain("the dialog did not open");
+    return shown && (!photographer || photographer->Succeeded()) ? kExitOk : kExitFailed;
 }
 
-std::unique_ptr<IClip> OpenClip(const Options& options) {
-    return options.media.empty() ? MakeSceneClip() : LoadClip(options.media);
-}
-
-/// A picture of every dialog, and one more with "Enable" off.
-int WriteGallery(Options options) {
-    ::CreateDirectoryW(options.gallery.c_str(), nullptr);
+int WriteGallery(CPlayer& player, CPlayerWindow& window, const std::wstring& folder) {
+    ::CreateDirectoryW(folder.c_str(), nullptr);
     int exitCode = kExitOk;
     for (const Effect& effect : AllEffects()) {
         const std::string name = effect.name;
-        const std::wstring file = options.gallery + L"\\" + std::wstring(name.begin(), name.end());
-        options.effect = &effect;
-        options.pictures = {file + L".png", file + L"-off.png"};
-        std::printf("%s\n", effect.name);
-        exitCode = (std::max)(exitCode, ShowDialog(options, OpenClip(options)));
+        std::printf("%2d of %d  %s  ", static_cast<int>(effect.id), static_cast<int>(kLastEffectId), effect.name);
+        std::fflush(stdout);
+        const std::wstring file = folder + L"\\" + std::wstring(name.begin(), name.end()) + L".png";
+        if (ShowDialog(player, window, effect, file) != kExitOk) exitCode = kExitFailed;
     }
     return exitCode;
+}
+
+int Show(const Options& options, Session session) {
+    bool saved = true;
+    std::vector<EffectState>& states = session.states;
+    const auto save = [&] {
+        if (options.settings.empty()) return;
+        saved = WriteWholeFile(options.settings, FormatSettings(states));
+        if (!saved) Complain("can't write '" + Utf8(options.settings) + "'");
+    };
+    const ComPtr<CPlayer> player = Adopt(new CPlayer(std::move(session.clip), std::move(session.sound)));
+    CPlayerWindow window(*player.Get(), states, save);
+    constexpr UINT kFast = 10;  // Nobody watches.
+    const HWND opened = window.Open(options.gallery.empty() ? CPlayer::kFrameMs : kFast);
+    if (!opened) {
+        Complain("the player's window can't be opened");
+        return kExitFailed;
+    }
+    int exitCode = kExitOk;
+    if (!options.gallery.empty()) {
+        exitCode = WriteGallery(*player.Get(), window, options.gallery);
+    } else if (options.effect) {
+        const Record& record = StateOf(states, *options.effect).record;
+        PrintRecord("before", *options.effect, record);
+        exitCode = ShowDialog(*player.Get(), window, *options.effect, options.picture);
+        PrintRecord("after", *options.effect, record);
+    } else {
+        std::optional<CPhotographer> photographer;
+        if (!options.picture.empty()) photographer.emplace(*player.Get(), opened, options.picture);
+        window.Run();
+        if (photographer && !photographer->Succeeded()) exitCode = kExitFailed;
+    }
+    return saved ? exitCode : kExitFailed;
+}
+
+/// The sound as the chorus makes it, until its echoes have died away.
+int Render(const Options& options, Session session) {
+    constexpr int kEchoSeconds = 2;
+    Sound& sound = session.sound;
+    sound.samples.resize(sound.samples.size() + 2 * kEchoSeconds * static_cast<std::size_t>(sound.samplesPerSecond));
+    const ComPtr<IDemoFilter> filter = MakeFilter(options.effect->id, Trace);
+    options.effect->Push(*filter.Get(), StateOf(session.states, *options.effect).record, {});
+    filter->ProcessSound(sound.samples, sound.samplesPerSecond);
+    if (SaveWave(options.render, sound)) return kExitOk;
+    Complain("can't write '" + Utf8(options.render) + "'");
+    return kExitFailed;
 }
 
 int Run(const Options& options) {
@@ -222,12 +274,12 @@ int Run(const Options& options) {
         return kExitOk;
     }
     if (options.trace) EnableTrace();
-    std::unique_ptr<IClip> clip = OpenClip(options);
-    if (!clip) return Complain(L"can't read a picture from '" + options.media + L"'");
-    const int exitCode = options.gallery.empty() ? ShowDialog(options, std::move(clip)) : WriteGallery(options);
-    clip.reset();
+    std::optional<Session> session = Prepare(options);
+    if (!session) return kExitUsage;
+    const int exitCode =
+        options.render.empty() ? Show(options, std::move(*session)) : Render(options, std::move(*session));
     if (g_liveObjects != 0) {
-        std::fprintf(stderr, "demo: %ld objects were not released\n", g_liveObjects);
+        Complain(std::to_string(g_liveObjects) + " objects were not released");
         return kExitLeak;
     }
     return exitCode;
@@ -244,7 +296,7 @@ int main() {
     ULONG_PTR gdiplus = 0;
     const Gdiplus::GdiplusStartupInput input;
     if (Gdiplus::GdiplusStartup(&gdiplus, &input, nullptr) != Gdiplus::Ok) {
-        Complain(L"GDI+ does not start");
+        Complain("GDI+ does not start");
         return kExitFailed;
     }
     const int exitCode = Run(*options);

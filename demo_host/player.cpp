@@ -1,52 +1,11 @@
 #include "demo_host/player.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
-#include "demo_host/effects.h"
 #include "demo_host/trace.h"
 
 namespace {
-
-constexpr UINT_PTR kFrameTimer = 1;
-constexpr UINT kFrameMs = 40;  // 25 frames a second.
-constexpr wchar_t kWindowClass[] = L"EffectSettingsDemo";
-constexpr COLORREF kBarColor = RGB(0, 0, 0);
-
-/// Draws a frame into the middle of a window, as large as its proportions allow.
-void DrawFrame(HWND window, const Frame& frame) {
-    RECT client;
-    ::GetClientRect(window, &client);
-    if (client.right <= 0 || client.bottom <= 0) return;
-    const double scale =
-        (std::min)(static_cast<double>(client.right) / frame.width, static_cast<double>(client.bottom) / frame.height);
-    const int width = (std::max)(static_cast<int>(std::lround(frame.width * scale)), 1);
-    const int height = (std::max)(static_cast<int>(std::lround(frame.height * scale)), 1);
-    const int x = (client.right - width) / 2;
-    const int y = (client.bottom - height) / 2;
-
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = frame.width;
-    info.bmiHeader.biHeight = -frame.height;  // Top row first.
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-
-    const HDC dc = ::GetDC(window);
-    ::SetStretchBltMode(dc, HALFTONE);
-    ::SetBrushOrgEx(dc, 0, 0, nullptr);
-    ::StretchDIBits(
-        dc, x, y, width, height, 0, 0, frame.width, frame.height, frame.pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);
-    ::SetDCBrushColor(dc, kBarColor);
-    const auto bar = static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
-    for (const RECT& rest : {RECT{0, 0, x, client.bottom}, RECT{x + width, 0, client.right, client.bottom},
-                             RECT{x, 0, x + width, y}, RECT{x, y + height, x + width, client.bottom}}) {
-        if (rest.right > rest.left && rest.bottom > rest.top) ::FillRect(dc, &rest, bar);
-    }
-    ::ReleaseDC(window, dc);
-}
 
 std::string Hex(LONG number) {
     char text[16];
@@ -62,76 +21,98 @@ HRESULT Give(CProcessorList* list, IProcessorList** given) {
 
 }  // namespace
 
-CPlayer::CPlayer(std::unique_ptr<IClip> clip) : m_clip(std::move(clip)) {
+CPlayer::CPlayer(std::unique_ptr<IClip> clip, Sound sound) : m_clip(std::move(clip)), m_sound(std::move(sound)) {
     for (const Effect& effect : AllEffects()) {
         (effect.IsAudio() ? m_allAudio : m_allVideo)->Append(MakeFilter(effect.id, Trace));
     }
     m_frame = m_clip->FrameAt(0);
 }
 
-HWND CPlayer::Open() {
-    WNDCLASSW windowClass{};
-    windowClass.lpfnWndProc = WindowProc;
-    windowClass.hInstance = ::GetModuleHandleW(nullptr);
-    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = kWindowClass;
-    ::RegisterClassW(&windowClass);
-    m_started = ::GetTickCount();
-    m_window = ::CreateWindowExW(0, kWindowClass, L"EffectSettings demo", WS_OVERLAPPEDWINDOW, 60, 40, 820, 640,
-                                 nullptr, nullptr, windowClass.hInstance, this);
-    if (!m_window) return nullptr;
-    ::ShowWindow(m_window, SW_SHOWNORMAL);
-    ::SetForegroundWindow(m_window);
-    ::SetTimer(m_window, kFrameTimer, kFrameMs, nullptr);
-    return m_window;
+unsigned CPlayer::Milliseconds() const {
+    const std::size_t pairs = m_sound.samples.size() / 2;
+    const auto sound = static_cast<unsigned>(pairs * 1000 / static_cast<std::size_t>(m_sound.samplesPerSecond));
+    return (std::max)({m_clip->Milliseconds(), sound, kFrameMs});
 }
 
-void CPlayer::Close() {
-    if (m_window) ::DestroyWindow(m_window);
-    m_window = nullptr;
+Sizes CPlayer::PictureSizes() const {
+    const SIZE video = m_clip->VideoSize();
+    const SIZE frame = m_clip->FrameSize();
+    return {{video.cx, video.cy}, {frame.cx, frame.cy}};
 }
 
-SIZE CPlayer::FrameSize() const { return {m_frame.width, m_frame.height}; }
-
-HWND CPlayer::Dialog() const { return m_dialog; }
-
-LRESULT CALLBACK CPlayer::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        const auto* create = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-        ::SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
-    }
-    auto* player = reinterpret_cast<CPlayer*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
-    switch (message) {
-        case WM_TIMER:
-            player->PlayFrame();
-            return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_PAINT: {
-            PAINTSTRUCT paint;
-            ::BeginPaint(window, &paint);
-            ::EndPaint(window, &paint);
-            DrawFrame(window, player->m_frame);
-            return 0;
+void CPlayer::SetChain(const std::vector<EffectState>& states) {
+    m_activeVideo->Clear();
+    m_activeAudio->Clear();
+    for (const List& all : {m_allVideo, m_allAudio}) {
+        for (const ComPtr<IDemoFilter>& filter : all->Processors()) {
+            const Effect& effect = EffectOf(filter->Effect());
+            const EffectState& state = StateOf(states, effect);
+            if (!state.checked) continue;
+            effect.Push(*filter.Get(), state.record, PictureSizes());
+            (effect.IsAudio() ? m_activeAudio : m_activeVideo)->Append(filter);
         }
-        default:
-            return ::DefWindowProcW(window, message, wParam, lParam);
     }
+    ProcessPicture();
 }
 
-void CPlayer::PlayFrame() {
-    const DWORD milliseconds = ::GetTickCount() - m_started;
-    m_frame = m_clip->FrameAt(milliseconds);
-    for (const auto& processor : m_activeVideo->Processors()) processor->Process(m_frame, milliseconds / kFrameMs);
-    DrawFrame(m_window, m_frame);
-    if (m_previewing) ++m_previewedFrames;
-    if (m_previewing && m_showPicture && m_previewWindow) DrawFrame(m_previewWindow, m_frame);
+void CPlayer::PlayNext() {
+    if (!m_playing && !m_previewing) return;
+    ProcessPicture();
+    ProcessSound();
+    m_number = (m_number + 1) % (Milliseconds() / kFrameMs);
+    ++m_frames;
+    const bool inDialog = m_previewing && m_previewWindow;
+    if (inDialog) DrawPreview();
+    if (m_onPlayed) m_onPlayed(inDialog ? ::GetAncestor(m_previewWindow, GA_ROOT) : nullptr, m_frames);
+}
+
+void CPlayer::Seek(unsigned milliseconds) {
+    m_number = (std::min)(milliseconds, Milliseconds() - 1) / kFrameMs;
+    RestartFilters();
+    ProcessPicture();
+}
+
+void CPlayer::ProcessPicture() {
+    m_frame = m_clip->FrameAt(Position());
+    for (const auto& filter : m_activeVideo->Processors()) filter->Process(m_frame, m_number);
+}
+
+void CPlayer::ProcessSound() {
+    const auto rate = static_cast<std::size_t>(m_sound.samplesPerSecond);
+    const std::size_t pairs = m_sound.samples.size() / 2;
+    std::vector<std::int16_t> before;
+    for (std::size_t pair = Position() * rate / 1000; pair < (Position() + kFrameMs) * rate / 1000; ++pair) {
+        before.push_back(m_sound.samples[2 * (pair % pairs)]);
+        before.push_back(m_sound.samples[2 * (pair % pairs) + 1]);
+    }
+    std::vector<std::int16_t> after = before;
+    for (const auto& filter : m_activeAudio->Processors()) filter->ProcessSound(after, m_sound.samplesPerSecond);
+    m_wave.Add(before, after, m_sound.samplesPerSecond);
+}
+
+void CPlayer::DrawPreview() const {
+    RECT area;
+    ::GetClientRect(m_previewWindow, &area);
+    const HDC dc = ::GetDC(m_previewWindow);
+    if (m_showPicture) {
+        DrawFrame(dc, area, m_frame);
+    } else {
+        m_wave.Draw(dc, area);  // A sound's dialog switches the picture off.
+    }
+    ::ReleaseDC(m_previewWindow, dc);
+}
+
+void CPlayer::RestartFilters() {
+    for (const List& active : {m_activeVideo, m_activeAudio}) {
+        for (const auto& filter : active->Processors()) filter->Restart();
+    }
 }
 
 HRESULT CPlayer::RefreshPreview() {
     Trace("host.RefreshPreview()");
     m_previewing = true;
-    m_previewedFrames = 0;
+    m_frames = 0;
+    RestartFilters();
     return S_OK;
 }
 
@@ -143,8 +124,7 @@ HRESULT CPlayer::StopPreview() {
 
 HRESULT CPlayer::ResetPreview() {
     Trace("host.ResetPreview()");
-    m_started = ::GetTickCount();
-    for (const auto& processor : m_activeVideo->Processors()) processor->Restart();
+    Seek(m_previewStart);
     return S_OK;
 }
 
@@ -156,7 +136,7 @@ HRESULT CPlayer::SetPreviewOption(LONG option) {
 HRESULT CPlayer::SetPreviewWindow(LONG window) {
     Trace("host.SetPreviewWindow(" + Hex(window) + ")");
     m_previewWindow = static_cast<HWND>(LongToHandle(window));
-    m_dialog = m_previewWindow ? ::GetAncestor(m_previewWindow, GA_ROOT) : nullptr;
+    if (m_previewWindow) m_previewStart = Position();
     return S_OK;
 }
 

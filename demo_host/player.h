@@ -1,27 +1,50 @@
-// The player: plays a clip in its own window, and as IMediaHost previews it into a dialog through the chain
-// of active processors.
+// The player as hosts have one: it plays a clip and its sound through the chains of active filters, and as IMediaHost
+// previews them into a dialog.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include "demo_host/clip.h"
 #include "demo_host/com_object.h"
+#include "demo_host/effects.h"
+#include "demo_host/paint.h"
 #include "demo_host/processor_list.h"
+#include "demo_host/settings_file.h"
+#include "demo_host/sound.h"
 #include "effect_settings/media_host.h"
 
 class CPlayer : public CComObject<IMediaHost> {
 public:
-    explicit CPlayer(std::unique_ptr<IClip> clip);
+    static constexpr unsigned kFrameMs = 40;  ///< 25 frames a second.
 
-    /// The player's window, which owns the dialogs. Null when it could not be created.
-    HWND Open();
-    void Close();
-    SIZE VideoSize() const { return m_clip->VideoSize(); }
-    SIZE FrameSize() const;
-    /// The dialog that was last given a preview; null before the first.
-    HWND Dialog() const;
-    /// How many frames were played since the preview was started.
-    int PreviewedFrames() const { return m_previewedFrames; }
+    CPlayer(std::unique_ptr<IClip> clip, Sound sound);
+
+    // --- for the player's window; all on its thread ---
+
+    /// Plays the next frame and its piece of sound, into the preview too. To be called every kFrameMs.
+    void PlayNext();
+    /// Goes to a time in the clip.
+    void Seek(unsigned milliseconds);
+    /// Puts the checked effects into the chains, in their order, with their values.
+    void SetChain(const std::vector<EffectState>& states);
+
+    unsigned Position() const { return m_number * kFrameMs; }
+    /// Of the picture or the sound, whichever is longer; the other starts again.
+    unsigned Milliseconds() const;
+    Sizes PictureSizes() const;
+    /// As last played, processed.
+    const Frame& Picture() const { return m_frame; }
+    const CWaveForm& WaveForm() const { return m_wave; }
+
+    bool IsPlaying() const { return m_playing; }
+    void SetPlaying(bool playing) { m_playing = playing; }
+    /// The handler is called after each frame, with the dialog that previews it (null when none does) and the number
+    /// of frames since the preview started, or since the player did.
+    void OnPlayed(std::function<void(HWND dialog, int frames)> handler) { m_onPlayed = std::move(handler); }
+
+    // --- IMediaHost ---
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         return Answer(object, iid == IID_IUnknown || iid == IID_IDispatch ? this : nullptr);
@@ -43,18 +66,25 @@ public:
 private:
     using List = ComPtr<CProcessorList>;
 
-    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void PlayFrame();
+    void ProcessPicture();
+    void ProcessSound();
+    void DrawPreview() const;
+    void RestartFilters();
 
     std::unique_ptr<IClip> m_clip;
-    Frame m_frame;  // As last played, processed.
-    DWORD m_started = 0;
-    HWND m_window = nullptr;
+    Sound m_sound;
+    bool m_playing = true;
+    unsigned m_number = 0;  // Of the frame to play next.
+    Frame m_frame;
+    CWaveForm m_wave;
+
     HWND m_previewWindow = nullptr;
-    HWND m_dialog = nullptr;
-    bool m_previewing = false;
-    int m_previewedFrames = 0;
     bool m_showPicture = false;
+    bool m_previewing = false;
+    int m_frames = 0;  // Played since the preview started.
+    unsigned m_previewStart = 0;
+    std::function<void(HWND dialog, int frames)> m_onPlayed;
+
     List m_allVideo = Adopt(new CProcessorList("video"));
     List m_activeVideo = Adopt(new CProcessorList("activeVideo"));
     List m_allAudio = Adopt(new CProcessorList("audio"));

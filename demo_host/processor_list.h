@@ -21,6 +21,7 @@ public:
     HRESULT STDMETHODCALLTYPE RemoveAt(LONG index) override;
     HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) override;
 
+    void Clear() { m_processors.clear(); }
     void Append(ComPtr<IDemoFilter> processor) { m_processors.push_back(std::move(processor)); }
     const std::vector<ComPtr<IDemoFilter>>& Processors() const { return m_processors; }
 

@@ -236,7 +236,7 @@ public:
     }
 
     SIZE VideoSize() const override { return {kWidth, kHeight}; }
-
+    SIZE FrameSize() const override { return {kWidth, kHeight}; }
     unsigned Milliseconds() const override { return kTurnMs; }
 
     const Frame& FrameAt(unsigned milliseconds) override {

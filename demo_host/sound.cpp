@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double kTuneSeconds = 4.8;
+constexpr double kTuneSeconds = 5.0;
 
 /// A note of the tune: when, at which pitch, how far to the right (0 to 1).
 struct Note {
@@ -20,15 +20,15 @@ struct Note {
 };
 
 /// Adds a plucked string to a loop: a few overtones, the higher the sooner gone.
-void Pluck(std::vector<double>& loop, unsigned rate, const Note& note) {
-    constexpr double kLouder = 0.2;
+void Pluck(std::vector<double>& loop, int rate, const Note& note) {
+    constexpr double kLouder = 0.55;
     const std::size_t pairs = loop.size() / 2;
     const auto start = static_cast<std::size_t>(note.second * rate);
     for (std::size_t index = 0; index < pairs; ++index) {
         const double time = static_cast<double>(index) / rate;
         double tone = 0.0;
         for (int overtone = 1; overtone <= 5; ++overtone) {
-            tone += std::exp(-(4.0 + 3.0 * overtone) * time) / overtone *
+            tone += std::exp(-(2.0 + 2.0 * overtone) * time) / overtone *
                     std::sin(2.0 * std::numbers::pi * note.hertz * overtone * time);
         }
         tone *= kLouder * (std::min)(time * 400.0, 1.0);  // Starts softly enough not to click.
@@ -80,13 +80,13 @@ Sound MakeTune() {
     return tune;
 }
 
-std::optional<Sound> LoadWave(const std::wstring& file, std::wstring& problem) {
+std::optional<Sound> LoadWave(const std::wstring& file, std::string& problem) {
     const std::optional<std::string> bytes = ReadWholeFile(file);
     if (!bytes) {
-        problem = L"can't be read";
+        problem = "can't be read";
         return std::nullopt;
     }
-    problem = L"is not a WAV file of 16-bit PCM, mono or stereo";
+    problem = "is not a WAV file of 16-bit PCM, mono or stereo";
     if (bytes->size() < 12 || bytes->compare(0, 4, "RIFF") != 0 || bytes->compare(8, 4, "WAVE") != 0) {
         return std::nullopt;
     }
@@ -103,7 +103,7 @@ std::optional<Sound> LoadWave(const std::wstring& file, std::wstring& problem) {
             auto kind = NumberAt<std::uint16_t>(*bytes, start);
             if (kind == kExtensible) kind = NumberAt<std::uint16_t>(*bytes, start + 24);
             channels = NumberAt<std::uint16_t>(*bytes, start + 2);
-            sound.samplesPerSecond = NumberAt<std::uint32_t>(*bytes, start + 4);
+            sound.samplesPerSecond = NumberAt<std::int32_t>(*bytes, start + 4);
             const bool known = kind == kPcm && NumberAt<std::uint16_t>(*bytes, start + 14) == 16 && channels >= 1 &&
                                channels <= 2 && sound.samplesPerSecond >= 1000 && sound.samplesPerSecond <= 192000;
             if (!known) return std::nullopt;
@@ -122,8 +122,8 @@ std::optional<Sound> LoadWave(const std::wstring& file, std::wstring& problem) {
 
 bool SaveWave(const std::wstring& file, const Sound& sound) {
     WaveHeader header;
-    header.samplesPerSecond = sound.samplesPerSecond;
-    header.bytesPerSecond = sound.samplesPerSecond * header.bytesPerPair;
+    header.samplesPerSecond = static_cast<std::uint32_t>(sound.samplesPerSecond);
+    header.bytesPerSecond = header.samplesPerSecond * header.bytesPerPair;
     header.dataBytes = static_cast<std::uint32_t>(sound.samples.size() * sizeof(std::int16_t));
     header.riffBytes = static_cast<std::uint32_t>(sizeof(header)) - 8 + header.dataBytes;
     std::string bytes(reinterpret_cast<const char*>(&header), sizeof(header));

@@ -7,7 +7,7 @@
 #include <vector>
 
 struct Sound {
-    unsigned samplesPerSecond = 44100;
+    int samplesPerSecond = 44100;
     std::vector<std::int16_t> samples;  ///< Left and right by turns.
 };
 
@@ -15,6 +15,6 @@ struct Sound {
 Sound MakeTune();
 
 /// Reads a WAV file of 16-bit PCM; a mono sound becomes the same left and right. Nothing, and why, when it is none.
-std::optional<Sound> LoadWave(const std::wstring& file, std::wstring& problem);
+std::optional<Sound> LoadWave(const std::wstring& file, std::string& problem);
 /// False when the file can't be written.
 bool SaveWave(const std::wstring& file, const Sound& sound);
