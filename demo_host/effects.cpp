@@ -30,6 +30,12 @@ void Set(IUnknown& properties, std::int32_t value) {
     Put(Setter, properties, value);
 }
 
+/// For the right or bottom edge of an area, which scaling may not bring to 0.
+template <auto Setter>
+void SetFarEdge(IUnknown& properties, std::int32_t value) {
+    Put(Setter, properties, (std::max)(value, 1));
+}
+
 /// For a choice, which travels as one bit. A record whose number is no choice selects none.
 template <auto Setter, int Choices>
 void SetChoice(IUnknown& properties, std::int32_t value) {
@@ -81,8 +87,8 @@ const Field kEnabled{"enabled", 0, 1, Set<&IEffectSwitch::put_Enable>};
 // What the user types as an area is kept as typed while the area is switched off.
 const Field kLeft{"left", kLowest, kHighest, Set<&IEffectAreaEdges::put_AreaLeft>, Unit::PixelsAcross};
 const Field kTop{"top", kLowest, kHighest, Set<&IEffectAreaEdges::put_AreaTop>, Unit::PixelsDown};
-const Field kRight{"right", kLowest, kHighest, Set<&IEffectAreaEdges::put_AreaRight>, Unit::PixelsAcross};
-const Field kBottom{"bottom", kLowest, kHighest, Set<&IEffectAreaEdges::put_AreaBottom>, Unit::PixelsDown};
+const Field kRight{"right", kLowest, kHighest, SetFarEdge<&IEffectAreaEdges::put_AreaRight>, Unit::PixelsAcross};
+const Field kBottom{"bottom", kLowest, kHighest, SetFarEdge<&IEffectAreaEdges::put_AreaBottom>, Unit::PixelsDown};
 const Field kAreaEnabled{"areaEnabled", 0, 1, Set<&IEffectArea::put_AreaEnable>};
 
 template <auto Setter>
@@ -101,8 +107,8 @@ template <typename Settings>
 AreaParams AreaOf(const Settings& settings, const Sizes& sizes) {
     return {ToFrame(settings.left, sizes.video.width, sizes.frame.width),
             ToFrame(settings.top, sizes.video.height, sizes.frame.height),
-            ToFrame(settings.right, sizes.video.width, sizes.frame.width),
-            ToFrame(settings.bottom, sizes.video.height, sizes.frame.height),
+            (std::max)(ToFrame(settings.right, sizes.video.width, sizes.frame.width), 1),
+            (std::max)(ToFrame(settings.bottom, sizes.video.height, sizes.frame.height), 1),
             settings.areaEnabled,
             {0, 0, 1, 1, 0}};
 }

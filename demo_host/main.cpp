@@ -80,10 +80,10 @@ std::optional<Options> ParseCommandLine() {
         bool Options::*flag;
         std::wstring Options::*file;
     } known[] = {
-        {L"--list", &Options::list, nullptr},       {L"--trace", &Options::trace, nullptr},         {L"--help", &Options::help, nullptr},
-        {L"--media", nullptr, &Options::media},     {L"--settings", nullptr, &Options::settings},
-        {L"--gallery", nullptr, &Options::gallery}, {L"--screenshot", nullptr, &Options::picture},
-        {L"--render", nullptr, &Options::render},
+        {L"--list", &Options::list, nullptr},          {L"--trace", &Options::trace, nullptr},
+        {L"--help", &Options::help, nullptr},          {L"--media", nullptr, &Options::media},
+        {L"--settings", nullptr, &Options::settings},  {L"--gallery", nullptr, &Options::gallery},
+        {L"--screenshot", nullptr, &Options::picture}, {L"--render", nullptr, &Options::render},
     };
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::wstring& argument = arguments[index];

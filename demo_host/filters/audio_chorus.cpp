@@ -2,7 +2,7 @@
 // copy's delay swings to either side, left and right `stereo` degrees apart. `feedback` sends the copy round again.
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <complex>
 #include <numbers>
 #include <vector>
 
@@ -25,14 +25,14 @@ public:
     std::size_t Length() const { return m_ring.size(); }
     void Add(double sample) {
         m_ring[m_next] = sample;
-        m_next = (m_next + 1) % m_ring.size();
+        m_next = m_next + 1 < m_ring.size() ? m_next + 1 : 0;
     }
     /// The sample of some samples ago, between two of them too; at least 1, at most Length() - 1.
     double Past(double samples) const {
         const auto whole = static_cast<std::size_t>(samples);
         const double rest = samples - static_cast<double>(whole);
-        const std::size_t later = (m_next + m_ring.size() - whole) % m_ring.size();
-        const std::size_t earlier = (later + m_ring.size() - 1) % m_ring.size();
+        const std::size_t later = m_next >= whole ? m_next - whole : m_next + m_ring.size() - whole;
+        const std::size_t earlier = (later > 0 ? later : m_ring.size()) - 1;
         return m_ring[later] * (1.0 - rest) + m_ring[earlier] * rest;
     }
 
@@ -61,13 +61,18 @@ public:
         if (m_lines[0].Length() != length) m_lines.fill(CDelayLine(length));
         const double delay = (std::max)(std::clamp(m_params.delay, 0, kLongestDelayMs) * perMs, 1.0);
         const double swing = (std::min)(kSwingMs * perMs, delay - 1.0);  // No copy comes before its sound.
-        const double step = 2.0 * std::numbers::pi * kSwingsPerSecond / samplesPerSecond;
         const double apart = std::clamp(m_params.stereo, 0, 180) * std::numbers::pi / 180.0;
+        const double step = 2.0 * std::numbers::pi * kSwingsPerSecond / samplesPerSecond;
+        const std::complex<double> turn = std::polar(1.0, step);
+        std::complex<double> left = std::polar(1.0, m_phase);
+        std::complex<double> right = std::polar(1.0, m_phase + apart);
         for (std::size_t pair = 0; pair + 1 < samples.size(); pair += 2) {
-            Mix(samples[pair], m_lines[0], delay + swing * std::sin(m_phase));
-            Mix(samples[pair + 1], m_lines[1], delay + swing * std::sin(m_phase + apart));
-            m_phase = std::fmod(m_phase + step, 2.0 * std::numbers::pi);
+            Mix(samples[pair], m_lines[0], delay + swing * left.imag());
+            Mix(samples[pair + 1], m_lines[1], delay + swing * right.imag());
+            left *= turn;
+            right *= turn;
         }
+        m_phase = std::arg(left);
     }
 
 private:
@@ -76,7 +81,7 @@ private:
         // A feedback of 100 % would otherwise grow for ever.
         line.Add(std::clamp(sample + Percent(m_params.feedback) * copy, -kLargest, kLargest));
         const double mixed = Percent(m_params.dryMix) * sample + Percent(m_params.wetMix) * copy;
-        sample = static_cast<std::int16_t>(std::lround(std::clamp(mixed, -kLargest - 1.0, kLargest)));
+        sample = static_cast<std::int16_t>(std::clamp(mixed + (mixed < 0 ? -0.5 : 0.5), -kLargest - 1.0, kLargest));
     }
 
     ChorusParams m_params{};
