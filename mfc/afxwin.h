@@ -2,6 +2,10 @@
 // MFC's own names and with its behaviour. Where MFC exists this folder stays off the include path.
 #pragma once
 
+#ifdef _WINDOWS_
+#error "afxwin.h has to come before windows.h, as with MFC."
+#endif
+
 #include <windows.h>
 
 #include <commctrl.h>
@@ -193,7 +197,8 @@ private:
     HHOOK m_hook;
 };
 
-/// The top-level window that a dialog belongs to: the parent's, without one the thread's active window.
+/// The top-level window that a dialog belongs to: the parent's, without one the active window, but that only on the
+/// thread that loaded the module.
 HWND OwnerFor(const CWnd* parent);
 
 template <auto Handler>
@@ -224,17 +229,17 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
     /// The template is borrowed until DoModal returns.
     BOOL InitModalIndirect(LPCDLGTEMPLATEW dialogTemplate, CWnd* parent = nullptr);
-    /// Runs the dialog and returns what EndDialog was given; -1 when it could not be created, when its window
-    /// was destroyed from outside and when the application is to quit.
+    /// Runs the dialog and returns what EndDialog was given; -1 when it could not be created and when the application is
+    /// to quit. A window that goes without EndDialog or EndModalLoop leaves the loop running.
     virtual INT_PTR DoModal();
-    void EndDialog(int result);
+    void EndDialog(int result) { EndModalLoop(result); }
+    void EndModalLoop(int result);
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     virtual BOOL OnInitDialog() { return TRUE; }
     virtual void OnOK() { EndDialog(IDOK); }
     virtual void OnCancel() { EndDialog(IDCANCEL); }
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -88,13 +88,9 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM) 
     if (message != WM_INITDIALOG) return FALSE;
     auto* dialog = static_cast<CDialog*>(FromHandlePermanent(window));
     if (!dialog) return FALSE;
-    try {
-        const BOOL systemSetsFocus = dialog->OnInitDialog();
-        dialog->m_initialized = true;
-        return systemSetsFocus;
-    } catch (...) {
-        return FALSE;  // Not initialized: the dialog ends before it shows.
-    }
+    const BOOL systemSetsFocus = dialog->OnInitDialog();
+    dialog->m_initialized = true;
+    return systemSetsFocus;
 }
 
 void CDialog::RunModalLoop() {
@@ -131,7 +127,7 @@ bool CDialog::IsPreTranslated(MSG& message) const {
     return false;
 }
 
-void CDialog::EndDialog(int result) {
+void CDialog::EndModalLoop(int result) {
     m_result = result;
     m_running = false;
     // Wakes the loop when this comes from a message that another thread sent.
@@ -142,12 +138,4 @@ BOOL CDialog::PreTranslateMessage(MSG* message) {
     const bool isInput = (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST) ||
                          (message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST);
     return isInput && ::IsDialogMessageW(m_hWnd, message);
-}
-
-LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCDESTROY && m_running) {
-        m_running = false;
-        ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
-    }
-    return CWnd::WindowProc(message, wParam, lParam);
 }

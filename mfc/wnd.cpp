@@ -36,12 +36,7 @@ WindowMap& Windows() {
     return windows;
 }
 
-/// What a window answers when its object threw: creation fails, painting counts as done, the rest as handled.
-LRESULT ResultAfterException(HWND window, UINT message) {
-    if (message == WM_CREATE) return -1;
-    if (message == WM_PAINT) ::ValidateRect(window, nullptr);
-    return 0;
-}
+const DWORD g_loadingThread = ::GetCurrentThreadId();
 
 bool IsImeWindow(HWND window) { return (::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0; }
 
@@ -101,7 +96,7 @@ bool CreationHook::Complete(HWND created) {
 
 HWND OwnerFor(const CWnd* parent) {
     HWND window = parent ? parent->GetSafeHwnd() : nullptr;
-    if (!window) window = ::GetActiveWindow();
+    if (!window && ::GetCurrentThreadId() == g_loadingThread) window = ::GetActiveWindow();
     return window ? ::GetAncestor(window, GA_ROOT) : nullptr;
 }
 
@@ -184,23 +179,14 @@ LRESULT CALLBACK CWnd::ObjectWindowProc(HWND window, UINT message, WPARAM wParam
     if (!object) return ::DefWindowProcW(window, message, wParam, lParam);
     const MSG current{window, message, wParam, lParam, 0, {0, 0}};
     const MSG* outer = std::exchange(afx::CurrentThread().currentMessage, &current);
-    LRESULT result = 0;
-    try {
-        result = object->WindowProc(message, wParam, lParam);
-    } catch (...) {
-        result = ResultAfterException(window, message);
-    }
+    const LRESULT result = object->WindowProc(message, wParam, lParam);
     afx::CurrentThread().currentMessage = outer;
     if (message != WM_NCDESTROY) return result;
     // Looked up again, for a handler may have deleted the object.
     object = FromHandlePermanent(window);
     if (!object) return result;
     object->Detach();
-    try {
-        object->PostNcDestroy();
-    } catch (...) {
-        // The window is gone already; nobody is left to be told.
-    }
+    object->PostNcDestroy();
     return result;
 }
 

@@ -3,7 +3,9 @@
 
 #include <afxwin.h>
 
-class CHintTip : public CWnd {
+#include "skin/guarded.h"
+
+class CHintTip : public CGuarded<CWnd> {
 public:
     /// Creates the hidden window.
     bool Create();

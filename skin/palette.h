@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include <windows.h>
+#include <afxwin.h>
 
 constexpr COLORREF MakeColor(int red, int green, int blue) {
     return static_cast<COLORREF>(red | (green << 8) | (blue << 16));

@@ -1,5 +1,7 @@
 #include "skin/skin_dialog.h"
 
+#include <utility>
+
 #include "skin/layered_window.h"
 #include "skin/skin_folder.h"
 
@@ -33,7 +35,7 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
     ON_WM_MOUSELEAVE()
 END_MESSAGE_MAP()
 
-CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header); }
+CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header, &m_owner); }
 
 void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) { m_controls.push_back({&control, help}); }
 
@@ -52,7 +54,13 @@ bool CSkinDialog::AddLabel(CSkinStatic& label, LPCWSTR text) {
 int CSkinDialog::OnCreate(LPCREATESTRUCT create) {
     if (CDialog::OnCreate(create) == -1) return -1;
     MakeLayered(m_hWnd, 255);
-    return CreateStandardControls() && CreateControls() ? 0 : -1;
+    try {
+        if (CreateStandardControls() && CreateControls()) return 0;
+    } catch (...) {
+        // Refused like a control that could not be created.
+    }
+    DestroyWindow();  // Not every system sends WM_DESTROY to a window that refuses its creation, and closing starts there.
+    return -1;
 }
 
 bool CSkinDialog::CreateStandardControls() {
@@ -69,12 +77,25 @@ void CSkinDialog::OnDestroy() {
     CDialog::OnDestroy();
     SetSkinBackground(nullptr);
     m_background.Reset();
+    // Somebody else destroyed the window: the framework would wait for an answer for ever.
+    if (std::exchange(m_answered, true)) return;
+    EndModalLoop(-1);
+    ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);  // Wakes a loop that has nothing else to do.
 }
 
 BOOL CSkinDialog::OnInitDialog() {
     CDialog::OnInitDialog();
     ModifyStyle(0, WS_CLIPCHILDREN);
-    return TRUE;
+    try {
+        return OnOpening();
+    } catch (...) {
+        Answer(-1);
+        return FALSE;
+    }
+}
+
+void CSkinDialog::Answer(int result) {
+    if (!std::exchange(m_answered, true)) EndDialog(result);
 }
 
 void CSkinDialog::PlaceWindow(int width, int height, LPCWSTR title) {

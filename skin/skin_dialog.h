@@ -7,11 +7,12 @@
 #include <afxwin.h>
 
 #include "skin/drawing.h"
+#include "skin/guarded.h"
 #include "skin/skin_button.h"
 #include "skin/skin_control.h"
 #include "skin/skin_static.h"
 
-class CSkinDialog : public CDialog {
+class CSkinDialog : public CGuarded<CDialog> {
 public:
     CSkinDialog();
 
@@ -40,7 +41,16 @@ protected:
     virtual void PaintControls(const CRect& area);
     virtual void RelayMouseEvent(UINT message, CPoint point);
 
+    /// What the dialog does when its window and controls are there; its result is OnInitDialog's. If it throws, the dialog
+    /// ends with -1.
+    virtual BOOL OnOpening() { return TRUE; }
+    /// Ends the dialog. The first answer holds, whatever is pressed while the dialog still closes.
+    void Answer(int result);
+    bool IsAnswered() const { return m_answered; }
+
     BOOL OnInitDialog() override;
+    void OnOK() override { Answer(IDOK); }
+    void OnCancel() override { Answer(IDCANCEL); }
     /// Sizes the window, puts it into the middle of its owner and sets its title.
     void PlaceWindow(int width, int height, LPCWSTR title);
     const std::vector<Entry>& Controls() const { return m_controls; }
@@ -67,6 +77,15 @@ private:
     void DrawTitle(HDC dc) const;
     void Press(CPoint point);
 
+    /// The active window at construction, for DoModal: the framework knows one only on the thread that loaded the library.
+    class COwner : public CWnd {
+    public:
+        COwner() { m_hWnd = ::GetActiveWindow(); }
+        ~COwner() override { m_hWnd = nullptr; }  // It is not this object's to destroy.
+    };
+
+    COwner m_owner;
+    bool m_answered = false;
     CBitmapHandle m_background;
     std::vector<Entry> m_controls;
     bool m_trackingMouse = false;

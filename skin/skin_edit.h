@@ -1,6 +1,7 @@
 // The edit box: a drawn frame around a real single-line edit window, which draws the text.
 #pragma once
 
+#include "skin/guarded.h"
 #include "skin/skin_item.h"
 
 class CSkinEdit : public CSkinItem {
@@ -21,7 +22,7 @@ protected:
 
 private:
     /// Tells the frame where the pointer is while it is over the edit window.
-    class CInnerEdit : public CEdit {
+    class CInnerEdit : public CGuarded<CEdit> {
     public:
         explicit CInnerEdit(CSkinEdit& frame) : m_frame(frame) {}
 

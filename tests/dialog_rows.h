@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include "effect_settings/effect_settings.h"
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
@@ -32,7 +31,6 @@ class Fallible : public Base {
 public:
     using Base::Base;
     UINT failAt = 0;
-    bool byThrowing = false;
     HWND lastWindow = nullptr;
     int ends = 0;
     std::vector<UINT> seen;
@@ -41,7 +39,6 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         lastWindow = this->m_hWnd;
         seen.push_back(message);
-        if (message == failAt && byThrowing) throw std::runtime_error("wanted");
         if (message == failAt) return message == WM_CREATE ? -1 : 0;
         return Base::WindowProc(message, wParam, lParam);
     }
@@ -177,8 +174,6 @@ struct EmptyTemplate {
     WORD noTitle = 0;
 };
 const EmptyTemplate kTemplate;
-constexpr UINT kThrow = WM_APP + 1;
-constexpr UINT kLeave = WM_APP + 2;
 
 class CScriptDialog : public CDialog {
 public:
@@ -209,14 +204,10 @@ protected:
         KillTimer(id);
         if (step) step(*this);
     }
-    afx_msg LRESULT OnThrow(WPARAM, LPARAM) { throw std::runtime_error("wanted"); }
-    afx_msg LRESULT OnLeave(WPARAM, LPARAM) { return DestroyWindow(); }
     DECLARE_MESSAGE_MAP()
 };
 BEGIN_MESSAGE_MAP(CScriptDialog, CDialog)
     ON_WM_TIMER()
-    ON_MESSAGE(kThrow, OnThrow)
-    ON_MESSAGE(kLeave, OnLeave)
 END_MESSAGE_MAP()
 
 std::function<void(CScriptDialog&)> Ends(int result) {
@@ -297,67 +288,20 @@ TEST(Window, MessagesReachTheObjectFromTheFirstOn) {
 
 TEST(Window, AFailedCreationLeavesNothing) {
     for (const UINT failAt : {UINT{WM_NCCREATE}, UINT{WM_CREATE}}) {
-        for (const bool byThrowing : {false, true}) {
-            SCOPED_TRACE(::testing::Message() << "message " << failAt << (byThrowing ? ", thrown" : ""));
-            COwnerWnd owner;
-            Fallible<CWnd> window;
-            Fallible<CScriptDialog> dialog;
-            dialog.step = Ends(5);
-            window.failAt = dialog.failAt = failAt;
-            window.byThrowing = dialog.byThrowing = byThrowing;
-            EXPECT_FALSE(window.Create(nullptr, L"", 0, CRect(0, 0, 9, 9), &owner, 1));
-            ExpectNothingLeft(window, window.lastWindow);
-            EXPECT_EQ(dialog.DoModal(), -1);
-            ExpectNothingLeft(dialog, dialog.lastWindow);
-            EXPECT_TRUE(owner.IsWindowEnabled());
-            window.failAt = dialog.failAt = 0;
-            EXPECT_TRUE(window.Create(nullptr, L"", 0, CRect(0, 0, 9, 9), &owner, 1));
-            EXPECT_EQ(dialog.DoModal(), 5);
-        }
-    }
-}
-
-TEST(Window, AnExceptionInAHandlerStaysInside) {
-    COwnerWnd owner;
-    Fallible<CWnd> painter;
-    painter.failAt = WM_PAINT;
-    painter.byThrowing = true;
-    ASSERT_TRUE(painter.Create(nullptr, L"", WS_VISIBLE, CRect(0, 0, 40, 40), &owner, 1));
-    painter.Invalidate();
-    painter.UpdateWindow();
-    EXPECT_FALSE(::GetUpdateRect(painter, nullptr, FALSE)) << "it would be asked to paint for ever";
-
-    using Step = std::function<void(CScriptDialog&)>;
-    const Step fails = [](CScriptDialog&) { throw std::runtime_error("wanted"); };
-    const Step endsAndFails = [](CScriptDialog& self) {
-        self.EndDialog(7);
-        throw std::runtime_error("wanted");
-    };
-    const Step getsNoAnswer = [](CScriptDialog& self) {
-        EXPECT_EQ(self.SendMessage(kThrow), 0);
-        self.EndDialog(7);
-    };
-    const struct {
-        const char* name;
-        Step atInit;
-        Step step;
-        std::function<bool(const MSG&)> filter;
-        INT_PTR result;
-    } rows[] = {
-        {"a handler", nullptr, getsNoAnswer, nullptr, 7},
-        {"OnInitDialog", fails, Ends(7), nullptr, -1},
-        {"OnInitDialog, once it ended the dialog", endsAndFails, nullptr, nullptr, -1},
-        {"a message filter", nullptr, Ends(7), [](const MSG&) -> bool { throw std::runtime_error("wanted"); }, -1},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        CScriptDialog dialog;
-        dialog.atInit = row.atInit;
-        dialog.step = row.step;
-        dialog.filter = row.filter;
-        EXPECT_EQ(dialog.DoModal(), row.result);
-        EXPECT_EQ(dialog.m_hWnd, nullptr);
+        SCOPED_TRACE(failAt);
+        COwnerWnd owner;
+        Fallible<CWnd> window;
+        Fallible<CScriptDialog> dialog;
+        dialog.step = Ends(5);
+        window.failAt = dialog.failAt = failAt;
+        EXPECT_FALSE(window.Create(nullptr, L"", 0, CRect(0, 0, 9, 9), &owner, 1));
+        ExpectNothingLeft(window, window.lastWindow);
+        EXPECT_EQ(dialog.DoModal(), -1);
+        ExpectNothingLeft(dialog, dialog.lastWindow);
         EXPECT_TRUE(owner.IsWindowEnabled());
+        window.failAt = dialog.failAt = 0;
+        EXPECT_TRUE(window.Create(nullptr, L"", 0, CRect(0, 0, 9, 9), &owner, 1));
+        EXPECT_EQ(dialog.DoModal(), 5);
     }
 }
 
@@ -393,31 +337,6 @@ TEST(Dialog, TheOwnersOwnerIsDisabledToo) {
     EXPECT_EQ(dialog.DoModal(), 3);
     EXPECT_TRUE(top.IsWindowEnabled());
     EXPECT_TRUE(popup.IsWindowEnabled());
-}
-
-TEST(Dialog, EndsWhenItsWindowIsDestroyedFromOutside) {
-    for (const bool fromAnotherThread : {false, true}) {
-        SCOPED_TRACE(fromAnotherThread ? "another thread" : "this thread");
-        COwnerWnd owner;
-        CScriptDialog dialog;
-        std::thread other;
-        dialog.step = [&](CScriptDialog& self) {
-            const HWND window = self;
-            if (!fromAnotherThread) {
-                ::DestroyWindow(window);
-                return;
-            }
-            // Sent once the loop waits with nothing in its queue.
-            other = std::thread([window] {
-                ::Sleep(100);
-                ::SendMessageW(window, kLeave, 0, 0);
-            });
-        };
-        EXPECT_EQ(dialog.DoModal(), -1);
-        if (other.joinable()) other.join();
-        EXPECT_TRUE(owner.IsWindowEnabled());
-        EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
-    }
 }
 
 TEST(Dialog, AppearsOnceItsQueueIsEmpty) {

@@ -32,8 +32,7 @@ protected:
         m_build(*this);
         return true;
     }
-    BOOL OnInitDialog() override {
-        CSkinDialog::OnInitDialog();
+    BOOL OnOpening() override {
         PlaceWindow(400, 400, L"Kit");
         return FALSE;
     }
