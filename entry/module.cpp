@@ -9,19 +9,15 @@ namespace {
 class CEffectSettingsApp : public CWinApp {
 public:
     BOOL InitInstance() override {
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&m_gdiplusToken, &input, nullptr);
+        StartGdiPlus();
         return CWinApp::InitInstance();
     }
 
     int ExitInstance() override {
         ReleaseSharedDrawing();
-        Gdiplus::GdiplusShutdown(m_gdiplusToken);
+        StopGdiPlus();
         return CWinApp::ExitInstance();
     }
-
-private:
-    ULONG_PTR m_gdiplusToken = 0;
 };
 
 CEffectSettingsApp g_app;

@@ -1,38 +1,51 @@
 #include "host/preview.h"
 
+#include <type_traits>
+
 #include "entry/session.h"
 
-void OpenPreview(IMediaHost& host, ChainKind chain, HWND panel) {
-    host.SetPreviewWindow(HandleToLong(panel));
+namespace {
+
+template <typename... Parameters>
+void Tell(IMediaHost** host, HRESULT (STDMETHODCALLTYPE IMediaHost::*operation)(Parameters...),
+          std::type_identity_t<Parameters>... values) {
+    if (IMediaHost* const present = *host) (present->*operation)(values...);
+}
+
+}  // namespace
+
+void OpenPreview(IMediaHost** host, ChainKind chain, HWND panel) {
+    Tell(host, &IMediaHost::SetPreviewWindow, HandleToLong(panel));
     if (chain == ChainKind::Video) {
-        host.SetPreviewMode(0);
-        host.SetPreviewOption(0);
-        host.EnableVideoPreview(g_PreviewOnInit ? VARIANT_TRUE : VARIANT_FALSE);
+        Tell(host, &IMediaHost::SetPreviewMode, 0);
+        Tell(host, &IMediaHost::SetPreviewOption, 0);
+        Tell(host, &IMediaHost::EnableVideoPreview, g_PreviewOnInit ? VARIANT_TRUE : VARIANT_FALSE);
     } else {
         // Sound shows no picture, and its dialog sets option and mode in the other order.
-        host.SetPreviewOption(0);
-        host.SetPreviewMode(0);
-        host.EnableVideoPreview(VARIANT_FALSE);
+        Tell(host, &IMediaHost::SetPreviewOption, 0);
+        Tell(host, &IMediaHost::SetPreviewMode, 0);
+        Tell(host, &IMediaHost::EnableVideoPreview, VARIANT_FALSE);
     }
 }
 
-void ClosePreview(IMediaHost& host, ChainKind chain) {
-    host.StopPreview();
-    host.ResetPreview();
-    host.SetPreviewRange(0, 0);
-    host.SetPreviewWindow(0);
+void ClosePreview(IMediaHost** host, ChainKind chain) {
+    Tell(host, &IMediaHost::StopPreview);
+    Tell(host, &IMediaHost::ResetPreview);
+    Tell(host, &IMediaHost::SetPreviewRange, 0, 0);
+    Tell(host, &IMediaHost::SetPreviewWindow, 0);
     if (chain == ChainKind::Video) {
-        host.SetPreviewMode(1);
-        host.EnableVideoPreview(VARIANT_FALSE);
+        Tell(host, &IMediaHost::SetPreviewMode, 1);
+        Tell(host, &IMediaHost::EnableVideoPreview, VARIANT_FALSE);
     } else {
-        host.EnableVideoPreview(VARIANT_FALSE);
-        host.SetPreviewMode(1);
+        Tell(host, &IMediaHost::EnableVideoPreview, VARIANT_FALSE);
+        Tell(host, &IMediaHost::SetPreviewMode, 1);
     }
 }
 
-ComPtr<IUnknown> AttachedProcessor(IMediaHost& host, ChainKind chain) {
+ComPtr<IUnknown> AttachedProcessor(IMediaHost** host, ChainKind chain) {
     ComPtr<IUnknown> object;
+    IMediaHost* const present = *host;
     const LONG kind = chain == ChainKind::Video ? kVideoProcessorKind : kAudioProcessorKind;
-    if (FAILED(host.GetProcessorObject(kind, object.GetAddressOf()))) return nullptr;
+    if (!present || FAILED(present->GetProcessorObject(kind, object.GetAddressOf()))) return nullptr;
     return object;
 }

@@ -13,71 +13,61 @@ struct ChainLists {
     ComPtr<IProcessorList> all;  // Released before the active list.
 
     bool Get(IMediaHost** host, ListGetter getAll, ListGetter getActive) {
-        return *host && SUCCEEDED(((*host)->*getAll)(all.GetAddressOf())) && all &&
-               SUCCEEDED(((*host)->*getActive)(active.GetAddressOf())) && active;
-    }
-};
-
-/// A moniker as the lists take it.
-class CMonikerString {
-public:
-    explicit CMonikerString(const CString& moniker) : m_string(moniker.AllocSysString()) {}
-    ~CMonikerString() { ::SysFreeString(m_string); }
-    CMonikerString(const CMonikerString&) = delete;
-    CMonikerString& operator=(const CMonikerString&) = delete;
-
-    LONG IndexIn(IProcessorList& list) const {
-        LONG index = kNotInList;
-        return SUCCEEDED(list.FindByMoniker(m_string, &index)) ? index : kNotInList;
-    }
-
-    void RemoveFrom(IProcessorList& list) const {
-        const LONG index = IndexIn(list);
-        if (index != kNotInList) list.RemoveAt(index);
+        return GetOne(*host, getAll, all) && GetOne(*host, getActive, active);
     }
 
 private:
-    BSTR m_string;
+    static bool GetOne(IMediaHost* host, ListGetter get, ComPtr<IProcessorList>& list) {
+        return host && SUCCEEDED((host->*get)(list.GetAddressOf())) && list;
+    }
 };
 
-int Attach(IMediaHost** host, const CString& moniker, ListGetter getAll, ListGetter getActive) {
-    ChainLists lists;
-    if (!lists.Get(host, getAll, getActive)) return 0;
-    ComPtr<IUnknown> item;
-    {
-        const CMonikerString name(moniker);
-        // What is in the chain already is taken out and put in again, so it is never there twice.
-        name.RemoveFrom(*lists.active.Get());
-        const LONG index = name.IndexIn(*lists.all.Get());
-        if (index == kNotInList) return 0;
-        lists.all->GetItem(index, item.GetAddressOf());
-    }
-    if (!item) return 0;
-    lists.active->Add(item.Get(), 0);
-    return 1;
+LONG IndexIn(IProcessorList& list, BSTR moniker) {
+    LONG index = kNotInList;
+    return SUCCEEDED(list.FindByMoniker(moniker, &index)) ? index : kNotInList;
 }
 
-int Detach(IMediaHost** host, const CString& moniker, ListGetter getAll, ListGetter getActive) {
+void RemoveFrom(IProcessorList& list, BSTR moniker) {
+    const LONG index = IndexIn(list, moniker);
+    if (index != kNotInList) list.RemoveAt(index);
+}
+
+int Attach(IMediaHost** host, BSTR moniker, ListGetter getAll, ListGetter getActive) {
     ChainLists lists;
     if (!lists.Get(host, getAll, getActive)) return 0;
-    CMonikerString(moniker).RemoveFrom(*lists.active.Get());
+    // What is in the chain already is taken out and put in again, so it is never there twice.
+    RemoveFrom(*lists.active.Get(), moniker);
+    const LONG index = *host ? IndexIn(*lists.all.Get(), moniker) : kNotInList;
+    ComPtr<IUnknown> item;
+    if (index != kNotInList && *host) lists.all->GetItem(index, item.GetAddressOf());
+    if (!item || !*host) return 0;
+    lists.active->Add(item.Get(), 0);
+    if (*host) return 1;
+    RemoveFrom(*lists.active.Get(), moniker);  // The host ended the dialog while it added.
+    return 0;
+}
+
+int Detach(IMediaHost** host, BSTR moniker, ListGetter getAll, ListGetter getActive) {
+    ChainLists lists;
+    if (!lists.Get(host, getAll, getActive)) return 0;
+    RemoveFrom(*lists.active.Get(), moniker);
     return 1;
 }
 
 }  // namespace
 
-int AttachVideoProcessor(IMediaHost** host, CString moniker) {
+int AttachVideoProcessor(IMediaHost** host, BSTR moniker) {
     return Attach(host, moniker, &IMediaHost::GetVideoProcessors, &IMediaHost::GetActiveVideoProcessors);
 }
 
-int AttachAudioProcessor(IMediaHost** host, CString moniker) {
+int AttachAudioProcessor(IMediaHost** host, BSTR moniker) {
     return Attach(host, moniker, &IMediaHost::GetAudioProcessors, &IMediaHost::GetActiveAudioProcessors);
 }
 
-int DetachVideoProcessor(IMediaHost** host, CString moniker) {
+int DetachVideoProcessor(IMediaHost** host, BSTR moniker) {
     return Detach(host, moniker, &IMediaHost::GetVideoProcessors, &IMediaHost::GetActiveVideoProcessors);
 }
 
-int DetachAudioProcessor(IMediaHost** host, CString moniker) {
+int DetachAudioProcessor(IMediaHost** host, BSTR moniker) {
     return Detach(host, moniker, &IMediaHost::GetAudioProcessors, &IMediaHost::GetActiveAudioProcessors);
 }

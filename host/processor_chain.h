@@ -8,10 +8,12 @@
 /// The chain that an effect lives in.
 enum class ChainKind { Video, Audio };
 
-// Each takes the address of the host pointer, does nothing without a host, and returns 1 on success, 0 on failure.
+// Each takes the address of a host pointer, does nothing without a host, and returns 1 on success, 0 on failure. The
+// moniker is borrowed; none of them needs memory. Attaching looks again and again whether the host pointer still stands:
+// one that is set to null meanwhile ends it, and nothing stays in the chain.
 
-int AttachVideoProcessor(IMediaHost** host, CString moniker);
-int AttachAudioProcessor(IMediaHost** host, CString moniker);
+int AttachVideoProcessor(IMediaHost** host, BSTR moniker);
+int AttachAudioProcessor(IMediaHost** host, BSTR moniker);
 /// Succeeds too when the processor was not in the chain.
-int DetachVideoProcessor(IMediaHost** host, CString moniker);
-int DetachAudioProcessor(IMediaHost** host, CString moniker);
+int DetachVideoProcessor(IMediaHost** host, BSTR moniker);
+int DetachAudioProcessor(IMediaHost** host, BSTR moniker);

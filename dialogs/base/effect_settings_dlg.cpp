@@ -1,6 +1,6 @@
 #include "dialogs/base/effect_settings_dlg.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "dialogs/base/help_panel.h"
 #include "entry/session.h"
@@ -21,7 +21,7 @@ constexpr UINT kPreviewDelayMs = 500;
 BEGIN_MESSAGE_MAP(CEffectSettingsDlg, CSkinDialog)
     ON_WM_DESTROY()
     ON_WM_TIMER()
-    ON_COMMAND(kDefaultButtonId, OnSetAsDefault)
+    ON_COMMAND(kDefaultButtonId, ResetToDefaults)
     ON_COMMAND(kEnableId, OnEnableCommand)
     ON_COMMAND_RANGE(kFirstOwnId, kLastOwnId, OnOwnCommand)
     ON_CONTROL_RANGE(EN_CHANGE, kFirstOwnId, kLastOwnId, OnEditChange)
@@ -57,36 +57,39 @@ CRect CEffectSettingsDlg::HelpRectBelow(int top) const {
     return CRect(20, top, client.right - 20, client.bottom - 40);
 }
 
-BOOL CEffectSettingsDlg::OnInitDialog() {
-    CSkinDialog::OnInitDialog();
+BOOL CEffectSettingsDlg::OnOpening() {
     PlaceWindow(m_info.width, m_info.height, TitleOf(m_info));
     if (m_options.firstSync == FirstSync::BeforeAttach) SyncControls();
-    if (!AttachFilter()) {
+    const bool attached = AttachFilter();
+    if (!GetSafeHwnd()) return FALSE;  // The host closed the dialog meanwhile.
+    if (!attached) {
         AfxMessageBox(m_info.chain == ChainKind::Video ? L"AddVideoProcessor Fialed" : L"AddAudioProcessor Fialed");
         return FALSE;
     }
     if (m_options.firstSync == FirstSync::AfterAttach) SyncControls();
     ApplyToFilter();
+    if (!GetSafeHwnd()) return FALSE;
     SetTimer(kPreviewTimer, kPreviewDelayMs, nullptr);
     m_loading = false;
     return TRUE;
 }
 
 bool CEffectSettingsDlg::AttachFilter() {
-    if (!g_Host) return false;
-    m_hostInformed = true;
-    OpenPreview(*g_Host, m_info.chain, m_preview.GetSafeHwnd());
+    m_opening = g_Host;
+    OpenPreview(&m_opening, m_info.chain, m_preview.GetSafeHwnd());
     const auto attach = m_info.chain == ChainKind::Video ? AttachVideoProcessor : AttachAudioProcessor;
-    if (!attach(&g_Host, m_moniker)) return false;
-    if (const ComPtr<IUnknown> processor = AttachedProcessor(*g_Host, m_info.chain)) ConnectFilter(*processor.Get());
+    if (!attach(&m_opening, m_moniker.Get())) return false;
+    if (const ComPtr<IUnknown> processor = AttachedProcessor(&m_opening, m_info.chain)) ConnectFilter(*processor.Get());
+    if (!m_opening) ReleaseFilter();
     return true;
 }
 
 void CEffectSettingsDlg::DetachFilter() {
-    if (m_hostInformed) {
-        ClosePreview(*g_Host, m_info.chain);
+    m_opening = nullptr;
+    if (IMediaHost* host = g_Host) {
+        ClosePreview(&host, m_info.chain);
         const auto detach = m_info.chain == ChainKind::Video ? DetachVideoProcessor : DetachAudioProcessor;
-        detach(&g_Host, m_moniker);
+        detach(&host, m_moniker.Get());
     }
     ReleaseFilter();
 }
@@ -99,7 +102,7 @@ void CEffectSettingsDlg::OnDestroy() {
 void CEffectSettingsDlg::OnTimer(UINT_PTR timer) {
     if (timer == kPreviewTimer) {
         KillTimer(kPreviewTimer);
-        if (g_Host) g_Host->RefreshPreview();
+        if (IMediaHost* const host = g_Host) host->RefreshPreview();
     }
     CSkinDialog::OnTimer(timer);
 }
@@ -114,24 +117,26 @@ LRESULT CEffectSettingsDlg::OnSliderChange(WPARAM wParam, LPARAM) {
     if (!info) return 0;
     if (info->code == SliderCode::Dragged || info->code == SliderCode::TrackClicked) {
         info->sender->SetPosition(info->proposed);
+        info->sender->ShowPosition();
     }
     ApplyToFilter();
     return 0;
 }
 
-void CEffectSettingsDlg::OnSetAsDefault() {
-    // Edits that are filled on the way push nothing of their own: the filter gets all defaults at once.
-    const bool wasLoading = std::exchange(m_loading, true);
-    ResetToDefaults();
-    m_loading = wasLoading;
+bool CEffectSettingsDlg::Hears(UINT notification, UINT id) const {
+    return std::find(m_heard.begin(), m_heard.end(), std::pair(notification, id)) != m_heard.end();
 }
 
-void CEffectSettingsDlg::OnEditChange(UINT /*id*/) {
-    if (!m_loading) ApplyToFilter();
+void CEffectSettingsDlg::OnOwnCommand(UINT id) {
+    if (Hears(BN_CLICKED, id)) OnClicked(id);
+}
+
+void CEffectSettingsDlg::OnEditChange(UINT id) {
+    if (!m_loading && Hears(EN_CHANGE, id)) ApplyToFilter();
 }
 
 void CEffectSettingsDlg::OnOK() {
-    if (!Validate()) return;
+    if (IsAnswered() || !Validate()) return;
     SaveSettings();
     CSkinDialog::OnOK();
 }
@@ -146,7 +151,11 @@ BOOL CEffectSettingsDlg::PreTranslateMessage(MSG* message) {
     if (message->message == WM_MOUSEMOVE) {
         CPoint point(message->pt);
         ScreenToClient(&point);
-        ShowHelpAt(point);
+        try {
+            ShowHelpAt(point);
+        } catch (...) {
+            // Without memory there is no help; the message passes on all the same.
+        }
     }
     return CSkinDialog::PreTranslateMessage(message);
 }

@@ -3,10 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 #include <afxwin.h>
 
 #include "dialogs/base/effect_info.h"
+#include "host/com_ptr.h"
 #include "skin/combo_list_box.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_dialog.h"
@@ -33,11 +36,15 @@ protected:
     virtual void SaveSettings() {}            ///< Writes the caller's record.
     virtual void ResetToDefaults() {}         ///< "Set as default": back to the effect's defaults, and a push.
     virtual void OnEnableClicked() { SyncAndApply(); }
-    virtual void OnClicked(UINT /*id*/) { ApplyToFilter(); }  ///< Any of the effect's own boxes and buttons.
+    virtual void OnClicked(UINT /*id*/) { ApplyToFilter(); }  ///< One of the effect's own boxes and buttons.
     virtual void OnPicked(const void* /*list*/) {}            ///< A row of a drop-down list.
 
     virtual void ConnectFilter(IUnknown& processor) = 0;
     virtual void ReleaseFilter() = 0;
+
+    /// Binds the clicks of a control to OnClicked, or the changes of an edit (EN_CHANGE) to a push. Commands of all
+    /// other controls do nothing.
+    void Hear(UINT id, UINT notification = BN_CLICKED) { m_heard.emplace_back(notification, id); }
 
     /// Creates the check box that every effect has first, with the effect's description as its help.
     bool CreateEnable(std::int32_t checked);
@@ -52,15 +59,14 @@ protected:
     void LayoutControls() override;
     void PaintControls(const CRect& area) override;
     bool CreateStandardControls() override;
-    BOOL OnInitDialog() override;
+    BOOL OnOpening() override;
     void OnOK() override;
     BOOL PreTranslateMessage(MSG* message) override;
 
     afx_msg void OnDestroy();
     afx_msg void OnTimer(UINT_PTR timer);
-    afx_msg void OnSetAsDefault();
     afx_msg void OnEnableCommand() { OnEnableClicked(); }
-    afx_msg void OnOwnCommand(UINT id) { OnClicked(id); }
+    afx_msg void OnOwnCommand(UINT id);
     afx_msg void OnEditChange(UINT id);
     afx_msg LRESULT OnSliderChange(WPARAM info, LPARAM);
     afx_msg LRESULT OnComboSelect(WPARAM list, LPARAM) {
@@ -77,14 +83,16 @@ private:
 
     bool AttachFilter();
     void DetachFilter();
+    bool Hears(UINT notification, UINT id) const;
     void ShowHelpAt(CPoint point);
 
     const EffectInfo& m_info;
     const EffectDialogOptions m_options;
-    const CString m_moniker;
+    const CBstr m_moniker;            // Made at construction: closing must not need memory.
+    IMediaHost* m_opening = nullptr;  // The host while the dialog opens; null again once its window is gone.
     CWnd m_preview;
     CSkinButton m_defaultButton;
     CString m_helpText;
-    bool m_loading = true;        // Until the dialog is fully open; edits that are filled meanwhile push nothing.
-    bool m_hostInformed = false;  // Whether the host knows of this dialog, so that closing has to tell it.
+    std::vector<std::pair<UINT, UINT>> m_heard;  // Notification and id.
+    bool m_loading = true;  // Until the dialog is fully open; edits that are filled meanwhile push nothing.
 };
