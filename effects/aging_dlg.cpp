@@ -168,6 +168,7 @@ private:
                                          .help = words.help});
             };
         specks.color.SetColor(static_cast<COLORREF>(*fields.color) & 0xFFFFFF);
+        Hear(setup.firstId + 8);
         return addBox(specks.on, 0, setup.on, fields.on, 1) && AddLabel(specks.line, L"") &&
                addBox(specks.random, 1, setup.random, fields.random, 1) &&
                addBox(specks.randomDensity, 2, {L"Random density", setup.randomDensityHelp}, fields.randomDensity, 1) &&
@@ -231,73 +232,83 @@ private:
         line.SetRect(At(at.x + boxWidth, at.y, kColumnWidth - boxWidth));
     }
 
-    /// Every control needs "Enable", and the switch of its group. Random dust (or pits) leaves nothing else of its group
-    /// to set; a random density leaves none to set; and a colour is set only where it is used.
     void SyncControls() override {
         const bool on = m_enable.IsChecked();
         m_area.SetEnabled(on);
-
         m_oldColor.SetEnabled(on);
-        m_channel.SetEnabled(on && m_oldColor.IsChecked());
-
         m_scratches.SetEnabled(on);
-        m_maxScratches.Enable(on && m_scratches.IsChecked());
-        m_scratchHeight.Enable(on && m_scratches.IsChecked());
-
-        for (Specks* specks : {&m_dust, &m_pits}) {
-            const bool added = on && specks->on.IsChecked();
-            const bool tuned = added && !specks->random.IsChecked();
-            const bool custom = tuned && specks->colors.Value() == kCustomColor;
-            specks->on.SetEnabled(on);
-            specks->random.SetEnabled(added);
-            specks->randomDensity.SetEnabled(tuned);
-            specks->always.SetEnabled(tuned);
-            specks->density.Enable(tuned && !specks->randomDensity.IsChecked());
-            specks->colors.SetEnabled(tuned);
-            specks->setColor.SetEnabled(custom);
-            specks->color.SetEnabled(custom);
-        }
+        m_dust.on.SetEnabled(on);
+        m_pits.on.SetEnabled(on);
+        SyncChannels();
+        SyncScratches();
+        SyncSpecks(m_dust);
+        SyncSpecks(m_pits);
     }
 
+    void SyncChannels() { m_channel.SetEnabled(m_enable.IsChecked() && m_oldColor.IsChecked()); }
+
+    void SyncScratches() {
+        const bool added = m_enable.IsChecked() && m_scratches.IsChecked();
+        m_maxScratches.Enable(added);
+        m_scratchHeight.Enable(added);
+    }
+
+    /// Random dust (or pits) leaves nothing else of its group to set; a random density leaves none to set; and a colour
+    /// is set only where it is used.
+    void SyncSpecks(Specks& specks) {
+        const bool added = m_enable.IsChecked() && specks.on.IsChecked();
+        const bool tuned = added && !specks.random.IsChecked();
+        const bool custom = tuned && specks.colors.Value() == kCustomColor;
+        specks.random.SetEnabled(added);
+        specks.randomDensity.SetEnabled(tuned);
+        specks.always.SetEnabled(tuned);
+        specks.density.Enable(tuned && !specks.randomDensity.IsChecked());
+        specks.colors.SetEnabled(tuned);
+        specks.setColor.SetEnabled(custom);
+        specks.color.SetEnabled(custom);
+    }
+
+    /// Each box or button brings its own group in line, and no other.
     void OnClicked(UINT id) override {
+        if (id == m_oldColor.Id()) SyncChannels();
+        if (id == m_scratches.Id()) SyncScratches();
         for (Specks* specks : {&m_dust, &m_pits}) {
-            if ((id == specks->setColor.Id() || id == specks->color.Id()) && !PickColor(*specks)) return;
+            if (id == specks->setColor.Id()) {
+                PickColor(*specks);
+            } else if (id >= specks->on.Id() && id < specks->setColor.Id() && id != specks->always.Id()) {
+                SyncSpecks(*specks);
+            }
         }
-        if (id != CAreaControls::kSwitchId) SyncControls();
         CAreaDlg::OnClicked(id);
     }
 
-    /// Whether the user chose a colour.
-    bool PickColor(Specks& specks) {
-        CColorDialog dialog(specks.color.Color(), CC_FULLOPEN, this);
-        if (dialog.DoModal() != IDOK) return false;
-        specks.color.SetColor(dialog.GetColor());
-        return true;
+    void PickColor(Specks& specks) {
+        CColorDialog dialog(specks.color.Color(), 0, this);
+        if (dialog.DoModal() == IDOK) specks.color.SetColor(dialog.GetColor());
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
+        Put(&IEffectAging::put_Enable, AutomationBool(m_enable));
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
-        m_filter->put_OldColor(AutomationBool(m_oldColor));
-        if (const auto channel = m_channel.Value()) m_filter->put_Channel(1 << *channel);
-        m_filter->put_Scratches(AutomationBool(m_scratches));
-        m_filter->put_MaxScratches(m_maxScratches.Value());
-        m_filter->put_ScratchHeight(m_scratchHeight.Value());
-        m_filter->put_Dust(AutomationBool(m_dust.on));
-        m_filter->put_RandomDust(AutomationBool(m_dust.random));
-        m_filter->put_DustRandomDensity(AutomationBool(m_dust.randomDensity));
-        m_filter->put_AlwaysAddDust(AutomationBool(m_dust.always));
-        m_filter->put_DustDensity(m_dust.density.Value());
-        if (const auto mode = m_dust.colors.Value()) m_filter->put_DustColorMode(1 << *mode);
-        m_filter->put_DustColor(static_cast<LONG>(m_dust.color.Color()));
-        m_filter->put_Pits(AutomationBool(m_pits.on));
-        m_filter->put_RandomPits(AutomationBool(m_pits.random));
-        m_filter->put_PitsRandomDensity(AutomationBool(m_pits.randomDensity));
-        m_filter->put_AlwaysAddPits(AutomationBool(m_pits.always));
-        m_filter->put_PitsDensity(m_pits.density.Value());
-        if (const auto mode = m_pits.colors.Value()) m_filter->put_PitsColorMode(1 << *mode);
-        m_filter->put_PitsColor(static_cast<LONG>(m_pits.color.Color()));
+        Put(&IEffectAging::put_OldColor, AutomationBool(m_oldColor));
+        if (const auto channel = m_channel.Value()) Put(&IEffectAging::put_Channel, 1 << *channel);
+        Put(&IEffectAging::put_Scratches, AutomationBool(m_scratches));
+        Put(&IEffectAging::put_MaxScratches, m_maxScratches.Value());
+        Put(&IEffectAging::put_ScratchHeight, m_scratchHeight.Value());
+        Put(&IEffectAging::put_Dust, AutomationBool(m_dust.on));
+        Put(&IEffectAging::put_RandomDust, AutomationBool(m_dust.random));
+        Put(&IEffectAging::put_DustRandomDensity, AutomationBool(m_dust.randomDensity));
+        Put(&IEffectAging::put_AlwaysAddDust, AutomationBool(m_dust.always));
+        Put(&IEffectAging::put_DustDensity, m_dust.density.Value());
+        if (const auto mode = m_dust.colors.Value()) Put(&IEffectAging::put_DustColorMode, 1 << *mode);
+        Put(&IEffectAging::put_DustColor, static_cast<LONG>(m_dust.color.Color()));
+        Put(&IEffectAging::put_Pits, AutomationBool(m_pits.on));
+        Put(&IEffectAging::put_RandomPits, AutomationBool(m_pits.random));
+        Put(&IEffectAging::put_PitsRandomDensity, AutomationBool(m_pits.randomDensity));
+        Put(&IEffectAging::put_AlwaysAddPits, AutomationBool(m_pits.always));
+        Put(&IEffectAging::put_PitsDensity, m_pits.density.Value());
+        if (const auto mode = m_pits.colors.Value()) Put(&IEffectAging::put_PitsColorMode, 1 << *mode);
+        Put(&IEffectAging::put_PitsColor, static_cast<LONG>(m_pits.color.Color()));
     }
 
     void SaveSettings() override {
@@ -306,10 +317,13 @@ private:
         m_settings->pitsColor = static_cast<std::int32_t>(m_pits.color.Color());
     }
 
-    void ResetToDefaults() override {
+    void SetDefaults() override {
+        // Here the area comes right after "Enable"; each of its edges that is filled pushes what else is set so far.
+        m_enable.SetChecked(true);
+        m_area.Set(false, kDefaultEffectArea);
+        CRecordDlg::SetDefaults();
         m_dust.color.SetColor(kDefaultDustColor);
         m_pits.color.SetColor(kDefaultPitsColor);
-        CAreaDlg::ResetToDefaults();
     }
 
     static constexpr int kLeft = 20;

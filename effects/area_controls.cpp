@@ -3,7 +3,6 @@
 namespace {
 
 struct EdgeSetup {
-    UINT id;
     LPCWSTR label;
     int labelWidth;
     LPCWSTR help;
@@ -11,10 +10,10 @@ struct EdgeSetup {
 };
 
 constexpr std::array<EdgeSetup, 4> kEdges = {{
-    {17, L"Left", 30, L"Left boundary of the effect area.", &RECT::left},
-    {18, L"Top", 30, L"Top boundary of the effect area.", &RECT::top},
-    {19, L"Right", 38, L"Right boundary of the effect area.", &RECT::right},
-    {20, L"Bottom", 50, L"Bottom boundary of the effect area.", &RECT::bottom},
+    {L"Left", 30, L"Left boundary of the effect area.", &RECT::left},
+    {L"Top", 30, L"Top boundary of the effect area.", &RECT::top},
+    {L"Right", 38, L"Right boundary of the effect area.", &RECT::right},
+    {L"Bottom", 50, L"Bottom boundary of the effect area.", &RECT::bottom},
 }};
 
 }  // namespace
@@ -29,7 +28,7 @@ bool CAreaControls::Create(CSkinDialog& dialog, bool on, const RECT& area, const
         const EdgeSetup& setup = kEdges[index];
         Edge& edge = m_edges[index];
         if (!dialog.AddLabel(edge.label, setup.label) ||
-            !edge.edit.Create(dialog, setup.id, area.*setup.edge, setup.help)) {
+            !edge.edit.Create(dialog, kEdgeIds[index], area.*setup.edge, setup.help)) {
             return false;
         }
     }

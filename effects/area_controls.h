@@ -11,6 +11,7 @@
 class CAreaControls {
 public:
     static constexpr UINT kSwitchId = 16;
+    static constexpr std::array<UINT, 4> kEdgeIds = {17, 18, 19, 20};
     static constexpr int kHeight = 72;
 
     struct Texts {

@@ -27,6 +27,8 @@ protected:
 
     bool AddArea(const CAreaControls::Texts& texts = {}) {
         const auto& settings = *this->m_settings;
+        this->Hear(CAreaControls::kSwitchId);
+        for (const UINT id : CAreaControls::kEdgeIds) this->Hear(id, EN_CHANGE);
         return m_area.Create(
             *this, settings.areaEnabled != 0, {settings.left, settings.top, settings.right, settings.bottom}, texts);
     }
@@ -62,9 +64,9 @@ protected:
         StoreEdges(m_area.Typed());
     }
 
-    void ResetToDefaults() override {
+    void SetDefaults() override {
+        CEffectDlg<Filter, Settings>::SetDefaults();
         m_area.Set(false, kDefaultEffectArea);
-        CEffectDlg<Filter, Settings>::ResetToDefaults();
     }
 
     /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
@@ -76,26 +78,25 @@ protected:
 
     /// Sends the area to a filter with a setter per edge, whatever its switch says: the filter looks at that.
     void PutArea(InvalidArea invalid, AreaSwitch place) {
-        auto& filter = *this->m_filter.Get();
         const RECT typed = m_area.Typed();
         const bool valid = IsValid(typed);
         const VARIANT_BOOL on = m_area.IsOn() ? VARIANT_TRUE : VARIANT_FALSE;
         if (place == AreaSwitch::BeforeEdges || (place == AreaSwitch::BeforeValidEdgesOnly && valid)) {
-            filter.put_AreaEnable(on);
+            this->Put(&Filter::put_AreaEnable, on);
         }
         if (valid || invalid == InvalidArea::ReplaceThenConvert) {
             const RECT edges = InFrame(valid ? typed : kDefaultEffectArea);
-            filter.put_AreaRight(edges.right);
-            filter.put_AreaBottom(edges.bottom);
-            filter.put_AreaLeft(edges.left);
-            filter.put_AreaTop(edges.top);
+            this->Put(&Filter::put_AreaRight, edges.right);
+            this->Put(&Filter::put_AreaBottom, edges.bottom);
+            this->Put(&Filter::put_AreaLeft, edges.left);
+            this->Put(&Filter::put_AreaTop, edges.top);
         } else {
-            filter.put_AreaLeft(kDefaultEffectArea.left);
-            filter.put_AreaTop(kDefaultEffectArea.top);
-            filter.put_AreaRight(kDefaultEffectArea.right);
-            filter.put_AreaBottom(kDefaultEffectArea.bottom);
+            this->Put(&Filter::put_AreaLeft, kDefaultEffectArea.left);
+            this->Put(&Filter::put_AreaTop, kDefaultEffectArea.top);
+            this->Put(&Filter::put_AreaRight, kDefaultEffectArea.right);
+            this->Put(&Filter::put_AreaBottom, kDefaultEffectArea.bottom);
         }
-        if (place == AreaSwitch::AfterEdges) filter.put_AreaEnable(on);
+        if (place == AreaSwitch::AfterEdges) this->Put(&Filter::put_AreaEnable, on);
     }
 
     CAreaControls m_area;

@@ -54,12 +54,8 @@ private:
                           .max = 180,
                           .field = &m_settings->stereo,
                           .standard = 90,
-                          .help = L"Stereo represents the phase difference between the left and right channel."}) &&
-               AddCheckBox(m_combine, {.id = 14,
-                                       .text = L"Combine Wet/Dry Mix",
-                                       .field = &m_settings->combineWetDry,
-                                       .standard = kNoDefault,
-                                       .help = nullptr});
+                          .help = L"Stereo represents the phase difference between the left and right channel."});
+        // No control stands for combineWetDry: it stays in the record as it came.
     }
 
     void LayoutControls() override {
@@ -70,12 +66,10 @@ private:
         PlaceSlider(m_delay, 471, 200);
         PlaceSlider(m_stereo, 521, 200);
         m_helpRect = HelpRectBelow(571);
-        // "Combine Wet/Dry Mix" is never placed: it only carries its field from the record and back.
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->SetChorusParams(
+        Put(&IEffectAudioChorus::SetChorusParams,
             {.dryMix = m_dryMix.Value(),
              .wetMix = m_wetMix.Value(),
              .delay = m_delay.Value(),
@@ -97,7 +91,6 @@ private:
     CValueSlider m_feedback;
     CValueSlider m_delay;
     CValueSlider m_stereo;
-    CSkinCheckBox m_combine;
 };
 
 }  // namespace

@@ -17,9 +17,7 @@ private:
         this->m_helpRect = this->HelpRectBelow(325);
     }
 
-    void ApplyToFilter() override {
-        if (this->m_filter) this->m_filter->put_Enable(AutomationBool(this->m_enable));
-    }
+    void ApplyToFilter() override { this->Put(&Filter::put_Enable, AutomationBool(this->m_enable)); }
 
     void ResetToDefaults() override {}  // The switch stays as the user left it.
 };

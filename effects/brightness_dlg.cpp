@@ -33,12 +33,11 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
+        Put(&IEffectBrightness::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectBrightness::put_Threshold, m_threshold.Value());
         // The push subtracts before truncating, OK and the number after: 999.5 sends 0 and saves -1. Hosts rely on both.
-        m_filter->put_Brightness(m_brightness.Sent());
-        m_filter->put_FirstFrameReference(AutomationBool(m_firstFrame));
+        Put(&IEffectBrightness::put_Brightness, m_brightness.Sent());
+        Put(&IEffectBrightness::put_FirstFrameReference, AutomationBool(m_firstFrame));
     }
 
     CValueSlider m_brightness;

@@ -73,15 +73,14 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Invert(AutomationBool(m_invert));
-        m_filter->put_LightAngle(m_lightAngle.Value());
-        m_filter->put_Elevation(m_elevation.Value());
-        m_filter->put_Depth(m_depth.Value());
-        m_filter->put_Ambient(m_ambient.Value());
-        m_filter->put_XOffset(m_xOffset.Sent());
-        m_filter->put_YOffset(m_yOffset.Sent());
+        Put(&IEffectBumpMap::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectBumpMap::put_Invert, AutomationBool(m_invert));
+        Put(&IEffectBumpMap::put_LightAngle, m_lightAngle.Value());
+        Put(&IEffectBumpMap::put_Elevation, m_elevation.Value());
+        Put(&IEffectBumpMap::put_Depth, m_depth.Value());
+        Put(&IEffectBumpMap::put_Ambient, m_ambient.Value());
+        Put(&IEffectBumpMap::put_XOffset, m_xOffset.Sent());
+        Put(&IEffectBumpMap::put_YOffset, m_yOffset.Sent());
         PutArea(InvalidArea::SendAsIs, AreaSwitch::AfterEdges);
     }
 

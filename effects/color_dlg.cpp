@@ -69,9 +69,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
         // Pushes take the offset off before truncating, OK after it.
-        m_filter->SetColorParams(
+        Put(&IEffectColor::SetColorParams,
             {.enabled = m_enable.IsChecked(),
              .brightness = m_brightness.Sent(),
              .contrast = m_contrast.Sent(),
@@ -79,7 +78,7 @@ private:
              .saturation = m_saturation.Sent(),
              .invert = m_invert.IsChecked(),
              .reserved = {1, 0, 0, 0, 0, 1}});
-        m_filter->SetAreaParams(AreaStructure());
+        Put(&IEffectColor::SetAreaParams, AreaStructure());
     }
 
     CValueSlider m_hue;

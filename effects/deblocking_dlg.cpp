@@ -71,14 +71,13 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Algorithm(m_algorithm.CurrentIndex());
-        m_filter->put_BlockOffsetX(ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
-        m_filter->put_BlockOffsetY(ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
-        m_filter->put_BlockWidth(ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
-        m_filter->put_BlockHeight(ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
-        m_filter->put_EdgeThreshold(m_edgeThreshold.Value());
+        Put(&IEffectDeblocking::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectDeblocking::put_Algorithm, m_algorithm.CurrentIndex());
+        Put(&IEffectDeblocking::put_BlockOffsetX, ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
+        Put(&IEffectDeblocking::put_BlockOffsetY, ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
+        Put(&IEffectDeblocking::put_BlockWidth, ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
+        Put(&IEffectDeblocking::put_BlockHeight, ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
+        Put(&IEffectDeblocking::put_EdgeThreshold, m_edgeThreshold.Value());
     }
 
     void SaveSettings() override {
@@ -86,9 +85,9 @@ private:
         m_settings->algorithm = m_algorithm.CurrentIndex();
     }
 
-    void ResetToDefaults() override {
+    void SetDefaults() override {
         m_algorithm.SetCurrentIndex(0);
-        CEffectDlg::ResetToDefaults();
+        CEffectDlg::SetDefaults();
     }
 
     /// The threshold applies to the four-line algorithm alone.

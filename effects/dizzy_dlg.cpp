@@ -40,10 +40,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_ZoomLevel(m_zoomLevel.Value());
-        m_filter->put_RotationSpeed(m_rotationSpeed.Value());
+        Put(&IEffectDizzy::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectDizzy::put_ZoomLevel, m_zoomLevel.Value());
+        Put(&IEffectDizzy::put_RotationSpeed, m_rotationSpeed.Value());
         PutArea(InvalidArea::ReplaceThenConvert, AreaSwitch::BeforeEdges);
     }
 

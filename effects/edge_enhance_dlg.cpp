@@ -48,10 +48,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_EnableMultiplier(AutomationBool(m_useMultiplier));
-        m_filter->put_Multiplier(m_multiplier.Value());
+        Put(&IEffectEdgeEnhance::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectEdgeEnhance::put_EnableMultiplier, AutomationBool(m_useMultiplier));
+        Put(&IEffectEdgeEnhance::put_Multiplier, m_multiplier.Value());
     }
 
     static constexpr UINT kUseMultiplierId = 12;

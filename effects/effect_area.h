@@ -2,7 +2,7 @@
 // edges may have any value.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 /// What "Set as default" sets, and what filters get instead of an invalid area.
 inline constexpr RECT kDefaultEffectArea = {0, 0, 1, 1};

@@ -27,8 +27,7 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->SetEmbossParams(
+        Put(&IEffectEmboss::SetEmbossParams,
             {.lightAngle = m_lightAngle.Value(),
              .elevation = m_elevation.Value(),
              .depth = m_depth.Value(),
@@ -39,7 +38,7 @@ private:
              .defaultDepth = 50,
              .defaultEmboss = 1,
              .defaultEnabled = 1});
-        m_filter->SetAreaParams(AreaStructure());
+        Put(&IEffectEmboss::SetAreaParams, AreaStructure());
     }
 };
 

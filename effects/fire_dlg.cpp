@@ -87,6 +87,7 @@ private:
     bool AddDirections() {
         for (std::size_t index = 0; index < kDirections.size(); ++index) {
             const Direction& direction = kDirections[index];
+            Hear(direction.id);
             if (!AddItem(m_directions[index], direction.caption, direction.id, direction.help)) return false;
         }
         return true;
@@ -123,15 +124,14 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_GradientLevel(m_gradientLevel.Value());
-        m_filter->put_ColorsOffset(m_colorsOffset.Value());
-        m_filter->put_Decay(m_decay.Value());
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_FlameDirection(Directions());
-        m_filter->put_EntireObject(AutomationBool(m_entireObject));
-        m_filter->put_ShowBackground(AutomationBool(m_showBackground));
+        Put(&IEffectFire::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectFire::put_GradientLevel, m_gradientLevel.Value());
+        Put(&IEffectFire::put_ColorsOffset, m_colorsOffset.Value());
+        Put(&IEffectFire::put_Decay, m_decay.Value());
+        Put(&IEffectFire::put_Threshold, m_threshold.Value());
+        Put(&IEffectFire::put_FlameDirection, Directions());
+        Put(&IEffectFire::put_EntireObject, AutomationBool(m_entireObject));
+        Put(&IEffectFire::put_ShowBackground, AutomationBool(m_showBackground));
         PutReference();
     }
 
@@ -140,9 +140,9 @@ private:
         m_settings->flameDirection = Directions();
     }
 
-    void ResetToDefaults() override {
+    void SetDefaults() override {
+        CMotionDlg::SetDefaults();
         SetDirections(kFlameNorth);
-        CMotionDlg::ResetToDefaults();
     }
 
     int Directions() const {

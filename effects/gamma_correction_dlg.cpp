@@ -27,7 +27,7 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (m_filter) m_filter->SetGammaParams({m_gamma.Value(), m_enable.IsChecked(), 0, 0});
+        Put(&IEffectGammaCorrection::SetGammaParams, {m_gamma.Value(), m_enable.IsChecked(), 0, 0});
     }
 
     CValueSlider m_gamma;

@@ -48,11 +48,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_TileWidth(m_tileWidth.Value());
-        m_filter->put_TileHeight(m_tileHeight.Value());
-        m_filter->put_Refraction(m_refraction.Value());
+        Put(&IEffectGlassTile::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectGlassTile::put_TileWidth, m_tileWidth.Value());
+        Put(&IEffectGlassTile::put_TileHeight, m_tileHeight.Value());
+        Put(&IEffectGlassTile::put_Refraction, m_refraction.Value());
         // With an invalid area this filter gets no switch at all, on purpose.
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeValidEdgesOnly);
     }

@@ -42,12 +42,11 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_Hue(m_hue.Value());
-        m_filter->put_Noise(m_noise.Value());
-        m_filter->put_LineNoise(AutomationBool(m_lineNoise));
+        Put(&IEffectHologram::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectHologram::put_Threshold, m_threshold.Value());
+        Put(&IEffectHologram::put_Hue, m_hue.Value());
+        Put(&IEffectHologram::put_Noise, m_noise.Value());
+        Put(&IEffectHologram::put_LineNoise, AutomationBool(m_lineNoise));
         PutReference();
     }
 

@@ -38,10 +38,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Refraction(m_refraction.Value());
-        m_filter->put_KeepSurroundings(AutomationBool(m_keepSurroundings));
+        Put(&IEffectLens::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectLens::put_Refraction, m_refraction.Value());
+        Put(&IEffectLens::put_KeepSurroundings, AutomationBool(m_keepSurroundings));
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
     }
 

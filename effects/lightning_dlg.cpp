@@ -22,9 +22,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
+        Put(&IEffectLightning::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectLightning::put_Threshold, m_threshold.Value());
         PutReference();
     }
 };

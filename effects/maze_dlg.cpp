@@ -38,10 +38,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Divisions(m_divisions.Value());
-        m_filter->put_BreakKind(m_breakKind.Value().value_or(0));
+        Put(&IEffectMaze::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectMaze::put_Divisions, m_divisions.Value());
+        Put(&IEffectMaze::put_BreakKind, m_breakKind.Value().value_or(0));
         // With an invalid area this filter gets no switch at all, on purpose.
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeValidEdgesOnly);
     }

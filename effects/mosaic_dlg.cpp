@@ -29,10 +29,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->SetMosaicParams(
+        Put(&IEffectMosaic::SetMosaicParams,
             {.mosaicSize = m_mosaicSize.Value(), .enabled = m_enable.IsChecked(), .reserved1 = 0, .reserved2 = 0});
-        m_filter->SetAreaParams(AreaStructure());
+        Put(&IEffectMosaic::SetAreaParams, AreaStructure());
     }
 
     CValueSlider m_mosaicSize;

@@ -31,11 +31,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_Hue(m_hue.Value());
-        m_filter->put_IntervalFrames(m_interval.Value());
+        Put(&IEffectMotionBlur::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectMotionBlur::put_Threshold, m_threshold.Value());
+        Put(&IEffectMotionBlur::put_Hue, m_hue.Value());
+        Put(&IEffectMotionBlur::put_IntervalFrames, m_interval.Value());
     }
 
     CValueSlider m_hue;

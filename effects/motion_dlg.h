@@ -69,8 +69,8 @@ protected:
 
     /// The end of a push.
     void PutReference() {
-        this->m_filter->put_NoReference(AutomationBool(m_noReference));
-        this->m_filter->put_FirstFrameReference(AutomationBool(m_firstFrame));
+        this->Put(&Filter::put_NoReference, AutomationBool(m_noReference));
+        this->Put(&Filter::put_FirstFrameReference, AutomationBool(m_firstFrame));
     }
 
     CValueSlider m_threshold;

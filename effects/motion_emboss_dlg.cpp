@@ -23,20 +23,19 @@ private:
         m_elevation.Place(Row(345, 130, 150, 30));
         m_depth.Place(Row(370, 130, 150, 30));
         m_threshold.Place(Row(395, 130, 150, 30));
-        m_mode.Place({20, 426}, {130, 80});
+        m_mode.Place({20, 426}, {80, 80}, 50);
         m_noReference.SetRect(At(20, 456, 180));
         m_firstFrame.SetRect(At(20, 481, 180));
         m_helpRect = HelpRectBelow(511);
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_LightAngle(m_lightAngle.Value());
-        m_filter->put_Elevation(m_elevation.Value());
-        m_filter->put_Depth(m_depth.Value());
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_BumpMap(m_mode.Value() == 1 ? VARIANT_TRUE : VARIANT_FALSE);
+        Put(&IEffectMotionEmboss::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectMotionEmboss::put_LightAngle, m_lightAngle.Value());
+        Put(&IEffectMotionEmboss::put_Elevation, m_elevation.Value());
+        Put(&IEffectMotionEmboss::put_Depth, m_depth.Value());
+        Put(&IEffectMotionEmboss::put_Threshold, m_threshold.Value());
+        Put(&IEffectMotionEmboss::put_BumpMap, m_mode.Value() == 1 ? VARIANT_TRUE : VARIANT_FALSE);
         PutReference();
     }
 };

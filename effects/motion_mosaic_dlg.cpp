@@ -32,10 +32,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_SquareSize(m_squareSize.Value());
+        Put(&IEffectMotionMosaic::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectMotionMosaic::put_Threshold, m_threshold.Value());
+        Put(&IEffectMotionMosaic::put_SquareSize, m_squareSize.Value());
         PutReference();
     }
 

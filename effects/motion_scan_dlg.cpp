@@ -40,10 +40,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_ShowScanLine(AutomationBool(m_showScanLine));
-        m_filter->put_LineIncrement(m_lineIncrement.Value());
+        Put(&IEffectMotionScan::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectMotionScan::put_ShowScanLine, AutomationBool(m_showScanLine));
+        Put(&IEffectMotionScan::put_LineIncrement, m_lineIncrement.Value());
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
     }
 

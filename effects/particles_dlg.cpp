@@ -28,9 +28,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Distortion(m_distortion.Value());
+        Put(&IEffectParticles::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectParticles::put_Distortion, m_distortion.Value());
     }
 
     CValueSlider m_distortion;

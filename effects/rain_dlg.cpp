@@ -45,11 +45,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_CustomRainDrops(AutomationBool(m_customRainDrops));
-        m_filter->put_WaveSpeed(m_waveSpeed.Value());
-        m_filter->put_Density(m_density.Value());
+        Put(&IEffectRain::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectRain::put_CustomRainDrops, AutomationBool(m_customRainDrops));
+        Put(&IEffectRain::put_WaveSpeed, m_waveSpeed.Value());
+        Put(&IEffectRain::put_Density, m_density.Value());
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
     }
 

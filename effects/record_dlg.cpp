@@ -29,6 +29,7 @@ bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup) {
         {setup.field, setup.standard, [&box] { return box.IsChecked() ? 1 : 0; },
          [&box](int value) { box.SetChecked(value != 0); }, [&box](bool enable) { box.SetEnabled(enable); }});
     box.SetChecked(*setup.field != 0);
+    Hear(setup.id);
     return AddItem(box, setup.text, setup.id, setup.help);
 }
 
@@ -36,6 +37,7 @@ bool CRecordDlg::AddRadioGroup(CRadioGroup& group, const RadioSetup& setup) {
     m_bindings.push_back(
         {setup.field, setup.standard, [&group, field = setup.field] { return group.Value().value_or(*field); },
          [&group](int value) { group.SetValue(value); }, [&group](bool enable) { group.SetEnabled(enable); }});
+    for (const CRadioGroup::Choice& choice : setup.choices) Hear(choice.id);
     return group.Create(*this, setup.choices, setup.value);
 }
 
@@ -43,6 +45,7 @@ bool CRecordDlg::AddNumberEdit(CNumberEdit& edit, UINT id, std::int32_t& field, 
     m_bindings.push_back(
         {&field, standard, [&edit] { return edit.Value(); }, [&edit](int value) { edit.SetValue(value); },
          [&edit](bool enable) { edit.SetEnabled(enable); }});
+    Hear(id, EN_CHANGE);
     return edit.Create(*this, id, field, help);
 }
 
@@ -56,10 +59,14 @@ void CRecordDlg::SaveSettings() {
     for (const Binding& binding : m_bindings) *binding.field = binding.get();
 }
 
-void CRecordDlg::ResetToDefaults() {
+void CRecordDlg::SetDefaults() {
     for (const Binding& binding : m_bindings) {
         if (binding.standard) binding.set(*binding.standard);
     }
+}
+
+void CRecordDlg::ResetToDefaults() {
+    SetDefaults();
     OnEnableClicked();
 }
 

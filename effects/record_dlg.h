@@ -57,6 +57,8 @@ protected:
     /// Every control but "Enable" follows "Enable".
     void SyncControls() override;
     void SaveSettings() override;
+    /// Puts the controls to their defaults in the order of adding, which shows: each edit that is filled pushes.
+    virtual void SetDefaults();
     /// Sets all defaults and then does what a click on "Enable" does.
     void ResetToDefaults() override;
 

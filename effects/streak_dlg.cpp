@@ -27,9 +27,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_HeavyMode(AutomationBool(m_heavyMode));
+        Put(&IEffectStreak::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectStreak::put_HeavyMode, AutomationBool(m_heavyMode));
     }
 
     CSkinCheckBox m_heavyMode;

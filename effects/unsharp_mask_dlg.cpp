@@ -46,11 +46,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Amount(m_amount.Value());
-        m_filter->put_Radius(m_radius.Value());
-        m_filter->put_Threshold(m_threshold.Value());
+        Put(&IEffectUnsharpMask::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectUnsharpMask::put_Amount, m_amount.Value());
+        Put(&IEffectUnsharpMask::put_Radius, m_radius.Value());
+        Put(&IEffectUnsharpMask::put_Threshold, m_threshold.Value());
     }
 
     CValueSlider m_amount;

@@ -35,9 +35,7 @@ public:
     /// is the upper one, and Value() the lower.
     int Sent() const;
     void SetValue(int value);
-
-protected:
-    void OnPositionChanged() override { ShowNumber(m_shown == Number::Saved ? Value() : Sent()); }
+    void ShowPosition() override { ShowNumber(m_shown == Number::Saved ? Value() : Sent()); }
 
 private:
     void ShowNumber(int number);

@@ -46,7 +46,7 @@ private:
         m_flip.SetRect(At(140, 320, 50));
         m_reverse.SetRect(At(260, 320, 80));
         m_secondLabel.SetRect(At(20, 345, 100));
-        m_angle.Place({20, 370}, {120, 120, 120, 100});
+        m_angle.Place({20, 370}, {100, 100, 100, 100}, 20);
         m_helpRect = HelpRectBelow(400);
     }
 
@@ -56,15 +56,14 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
         if (m_enable.IsChecked()) {
-            m_filter->put_Flip(AutomationBool(m_flip));
-            m_filter->put_Reverse(AutomationBool(m_reverse));
-            m_filter->put_Angle(m_angle.Value().value_or(0));
+            Put(&IEffectVideoRotation::put_Flip, AutomationBool(m_flip));
+            Put(&IEffectVideoRotation::put_Reverse, AutomationBool(m_reverse));
+            Put(&IEffectVideoRotation::put_Angle, m_angle.Value().value_or(0));
         } else {
-            m_filter->put_Angle(0);
-            m_filter->put_Flip(VARIANT_FALSE);
-            m_filter->put_Reverse(VARIANT_FALSE);
+            Put(&IEffectVideoRotation::put_Angle, 0);
+            Put(&IEffectVideoRotation::put_Flip, VARIANT_FALSE);
+            Put(&IEffectVideoRotation::put_Reverse, VARIANT_FALSE);
         }
     }
 

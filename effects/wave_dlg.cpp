@@ -36,10 +36,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        if (!m_filter) return;
-        m_filter->put_Enable(AutomationBool(m_enable));
-        m_filter->put_Threshold(m_threshold.Value());
-        m_filter->put_WaveSpeed(m_speed.Value());
+        Put(&IEffectWave::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectWave::put_Threshold, m_threshold.Value());
+        Put(&IEffectWave::put_WaveSpeed, m_speed.Value());
     }
 
     CValueSlider m_threshold;

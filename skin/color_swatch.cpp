@@ -7,6 +7,7 @@ void CColorSwatch::SetColor(COLORREF color) {
 }
 
 void CColorSwatch::Paint(HDC dc, CSize size) {
-    FillRectangle(dc, CRect(2, 2, size.cx - 2, size.cy - 2), IsEnabled() ? m_color : DisabledColor());
-    DrawOpenCornerFrame(dc, size, IsHovered() ? kOrangeColor : Lighten(kAccentColor, 30));
+    FillRectangle(dc, CRect(2, 2, size.cx - 2, size.cy - 2), m_color);
+    // The colour itself always shows: the frame tells whether it can be changed.
+    DrawOpenCornerFrame(dc, size, IsEnabled() ? Darken(kTextColor, 80) : Darken(kAccentColor, 40));
 }

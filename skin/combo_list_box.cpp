@@ -161,14 +161,16 @@ CRect CVelComboListBox::DropRect() {
 void CVelComboListBox::ShowDropDown(bool show) {
     if (!show) {
         if (!IsDropped()) return;
-        const bool hadFocus = ::GetActiveWindow() == m_drop.GetSafeHwnd();
+        // Before hiding, or the system would give the focus to the dialog's first control and select what is in it.
+        if (::GetActiveWindow() == m_drop.GetSafeHwnd())
+            ::SetFocus(::IsWindow(m_focusBefore) ? m_focusBefore : Parent());
         m_drop.ShowWindow(SW_HIDE);
-        if (hadFocus) ::SetFocus(Parent());
         Draw();
         return;
     }
     if (!m_drop.GetSafeHwnd() && !m_drop.Create(Parent())) return;
     if (m_drop.List().GetCount() > 0) m_drop.List().SetCurSel(CurrentIndex());
+    m_focusBefore = ::GetFocus();
     m_drop.MoveWindow(DropRect());
     m_drop.ShowWindow(SW_SHOW);
     ::SetFocus(m_drop.List().GetSafeHwnd());

@@ -1,6 +1,7 @@
 // The drop-down choice: a framed item with the chosen text, and a pop-up list to choose from.
 #pragma once
 
+#include "skin/guarded.h"
 #include "skin/skin_item.h"
 
 class CVelComboListBox;
@@ -9,7 +10,7 @@ class CVelComboListBox;
 inline constexpr UINT WM_SKIN_COMBO_SELECT = WM_USER + 598;
 
 /// The rows. The highlight follows the pointer; a release, or Enter, picks.
-class CComboDropList : public CListBox {
+class CComboDropList : public CGuarded<CListBox> {
 public:
     explicit CComboDropList(CVelComboListBox& combo) : m_combo(combo) {}
 
@@ -29,7 +30,7 @@ private:
 };
 
 /// The pop-up that holds the list.
-class CComboDropWnd : public CWnd {
+class CComboDropWnd : public CGuarded<CWnd> {
 public:
     explicit CComboDropWnd(CVelComboListBox& combo) : m_list(combo), m_combo(combo) {}
     bool Create(HWND owner);
@@ -81,6 +82,7 @@ private:
     CComboDropWnd m_drop{*this};
     int m_rowHeight = 18;
     int m_maxListHeight = 180;
+    HWND m_focusBefore = nullptr;       // What had the focus before the list took it.
     bool m_closedUnderPointer = false;  // By losing the activation while the pointer was over the item,
     DWORD m_closedAt = 0;               // at this time of the system's clock.
 };

@@ -24,10 +24,10 @@ void CRadioGroup::SetEnabled(bool enabled) {
     for (CButton& button : m_buttons) button.SetEnabled(enabled);
 }
 
-void CRadioGroup::Place(CPoint at, const std::vector<int>& widths) {
+void CRadioGroup::Place(CPoint at, const std::vector<int>& widths, int gap) {
     constexpr int kHeight = 20;
     for (std::size_t index = 0; index < m_buttons.size(); ++index) {
         m_buttons[index].SetRect(CRect(at.x, at.y, at.x + widths[index], at.y + kHeight));
-        at.x += widths[index];
+        at.x += widths[index] + gap;
     }
 }

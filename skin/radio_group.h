@@ -23,8 +23,9 @@ public:
     /// Selects the choice of a value; none for a value that is no choice.
     void SetValue(int value);
     void SetEnabled(bool enabled);
-    /// Places the buttons side by side, in the order of the choices.
-    void Place(CPoint at, const std::vector<int>& widths);
+    /// Places the buttons from left to right, in the order of the choices.
+    /// @param gap  Between one button and the next, in pixels: a click there hits nothing.
+    void Place(CPoint at, const std::vector<int>& widths, int gap = 0);
 
 private:
     class CButton : public CSkinRadioButton {

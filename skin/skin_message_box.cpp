@@ -1,5 +1,7 @@
 #include "skin/skin_message_box.h"
 
+#include <utility>
+
 #include <afxdlgs.h>
 
 #include "skin/skin_folder.h"
@@ -12,12 +14,33 @@ constexpr UINT kTextId = 99;
 constexpr UINT kSaveInfoId = 256;
 constexpr UINT kGetHelpId = 257;
 constexpr int kTextMargin = 8;
+constexpr UINT kStartMessage = 1225;
 
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CMessageText, CRichEditCtrl)
     ON_WM_GETDLGCODE()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
+
+void CMessageText::ClickAtStart() {
+    m_clicking = true;
+    SendMessage(kStartMessage);
+    PostMessage(WM_LBUTTONDOWN);
+    PostMessage(WM_LBUTTONUP);
+}
+
+void CMessageText::OnLButtonUp(UINT flags, CPoint point) {
+    CRichEditCtrl::OnLButtonUp(flags, point);
+    // The press may have been taken for one in the margin, or for the second of two, and have selected a line.
+    if (std::exchange(m_clicking, false)) SendMessage(EM_SETSEL, 0, 0);
+}
+
+void CMessageText::OnMouseMove(UINT flags, CPoint point) {
+    // A move between the press and the release would select up to wherever the pointer is.
+    if (!m_clicking) CRichEditCtrl::OnMouseMove(flags, point);
+}
 
 BEGIN_MESSAGE_MAP(CSkinMessageBox, CSkinDialog)
     ON_COMMAND(IDYES, OnYes)
@@ -43,6 +66,7 @@ bool CSkinMessageBox::CreateControls() {
     const bool asks = m_buttons == MessageButtons::YesNo;
     m_cancelButton.SetVisible(false);
     m_okButton.SetVisible(m_buttons == MessageButtons::Answer);
+    m_closeButton.SetVisible(!asks);
     m_yesButton.SetVisible(asks);
     m_noButton.SetVisible(asks);
     return true;
@@ -62,8 +86,7 @@ void CSkinMessageBox::LayoutControls() {
     m_text.MoveWindow(1, 35, client.right - 3, client.bottom - 71);
 }
 
-BOOL CSkinMessageBox::OnInitDialog() {
-    CSkinDialog::OnInitDialog();
+BOOL CSkinMessageBox::OnOpening() {
     PlaceWindow(kWidth, kHeight, m_title);
     ::SetWindowPos(m_hWnd, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 
@@ -77,7 +100,7 @@ BOOL CSkinMessageBox::OnInitDialog() {
     format.crTextColor = kTextColor;
     m_text.SetWindowText(m_message);
     m_text.SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
-    m_text.SendMessage(EM_SETSEL, 0, 0);
+    m_text.ClickAtStart();
     return TRUE;
 }
 

@@ -3,15 +3,25 @@
 
 #include <afxcmn.h>
 
+#include "skin/guarded.h"
 #include "skin/skin_dialog.h"
 
 enum class MessageButtons : int { Answer = 1, YesNo = 4 };
 
 /// The text: it scrolls by the arrow keys and leaves all other keys, and what is selected, to the dialog.
-class CMessageText : public CRichEditCtrl {
+class CMessageText : public CGuarded<CRichEditCtrl> {
+public:
+    /// Posts a press and a release at the text's start, so that it begins without a selection.
+    void ClickAtStart();
+
 protected:
     afx_msg UINT OnGetDlgCode() { return DLGC_WANTARROWS; }
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_clicking = false;  // Until the posted release has come.
 };
 
 class CSkinMessageBox : public CSkinDialog {
@@ -24,10 +34,10 @@ public:
 protected:
     bool CreateControls() override;
     void LayoutControls() override;
-    BOOL OnInitDialog() override;
+    BOOL OnOpening() override;
 
-    afx_msg void OnYes() { EndDialog(IDYES); }
-    afx_msg void OnNo() { EndDialog(IDNO); }
+    afx_msg void OnYes() { Answer(IDYES); }
+    afx_msg void OnNo() { Answer(IDNO); }
     afx_msg void OnSaveInfo();
     DECLARE_MESSAGE_MAP()
 

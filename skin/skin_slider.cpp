@@ -45,7 +45,6 @@ void CSkinSlider::SetMinimum(double minimum) {
 void CSkinSlider::SetPosition(double position) {
     if (std::abs(m_position - position) < kSamePosition) return;
     m_position = position > m_maximum ? m_maximum : position < m_minimum ? m_minimum : position;
-    OnPositionChanged();
     if (IsWindowVisible()) Paint(CBorrowedDC(m_hWnd));
 }
 

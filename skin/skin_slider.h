@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include "skin/guarded.h"
 #include "skin/skin_control.h"
 
 class CSkinSlider;
@@ -21,7 +22,7 @@ struct SliderChangeInfo {
     int flag;  ///< Always 1.
 };
 
-class CSkinSlider : public CWnd, public CSkinControl {
+class CSkinSlider : public CGuarded<CWnd>, public CSkinControl {
 public:
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
     /// A maximum below the minimum becomes the minimum plus 1.
@@ -32,13 +33,14 @@ public:
     void SetPosition(double position);
     double Position() const { return m_position; }
     void Enable(bool enable);
+    /// Renews what stands beside the slider for its position. The dialog calls it after every change that a slider
+    /// proposed, also when the position stayed where it was.
+    virtual void ShowPosition() {}
 
     void SetBackground(HBITMAP background) override { m_background = background; }
     CRect Bounds() const override;
 
 protected:
-    virtual void OnPositionChanged() {}
-
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
