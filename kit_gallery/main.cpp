@@ -88,7 +88,7 @@ public:
 
 protected:
     bool CreateControls() override;
-    BOOL OnInitDialog() override;
+    BOOL OnOpening() override;
 
     afx_msg void OnTimer(UINT_PTR timer);
     afx_msg void OnAnswer() { CSkinMessageBox(nullptr, L"One answer. Esc works too.").DoModal(); }
@@ -258,8 +258,7 @@ bool CKitGalleryDlg::CreateControls() {
     return m_tip.Create();
 }
 
-BOOL CKitGalleryDlg::OnInitDialog() {
-    CSkinDialog::OnInitDialog();
+BOOL CKitGalleryDlg::OnOpening() {
     PlaceWindow(kWidth, kHeight, L"The controls of the kit");
     if (!m_screenshot.empty()) SetTimer(kOpenTimer, kStepMs, nullptr);
     return TRUE;

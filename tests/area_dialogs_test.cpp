@@ -48,13 +48,13 @@ struct Member {
         return {left, left + 4};
     }
     POINT Switch() const { return {60, switchY}; }
-    /// What a push says of an area that is switched on, in source pixels.
-    std::string Sent(const Record& area) const {
+    /// What a push says of an area in source pixels.
+    std::string Sent(const Record& area, bool on = true) const {
         Record edges = area;
         for (std::int32_t& edge : edges) edge *= 2;
-        if (&way == &kStructure) return way.valid({edges[0], edges[1], edges[2], edges[3], 1, 0, 0, 1, 1, 0});
-        return way.switchFirst ? way.valid({-1, edges[2], edges[3], edges[0], edges[1]})
-                               : way.valid({edges[2], edges[3], edges[0], edges[1], -1});
+        if (&way == &kStructure) return way.valid({edges[0], edges[1], edges[2], edges[3], on, 0, 0, 1, 1, 0});
+        return way.switchFirst ? way.valid({-on, edges[2], edges[3], edges[0], edges[1]})
+                               : way.valid({edges[2], edges[3], edges[0], edges[1], -on});
     }
 };
 
@@ -88,6 +88,17 @@ AreaPush AreaPushes(Session& session) {
     return pushes;
 }
 long CallsPerPush(const Member& member) { return &member.way == &kStructure ? 2 : 1; }
+
+/// The part of each push that is not about the area.
+Lines OwnPushes(Session& session) {
+    Lines pushes;
+    for (const std::string& line : session.host.Calls().Take()) {
+        if (!line.starts_with("filter.") || line.find("Area") != std::string::npos) continue;
+        if (line.starts_with("filter.put_Enable(") || line.find("Params(") != std::string::npos) pushes.emplace_back();
+        pushes.back() += line.substr(7) + " ";
+    }
+    return pushes;
+}
 
 void SetText(const DialogDriver& dialog, int id, const wchar_t* text) {
     ::SendMessageW(dialog.Child(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
@@ -169,6 +180,35 @@ TEST(AreaDialogs, EveryKeystrokeInAnEdgeIsOnePush) {
     }
 }
 
+TEST(AreaDialogs, SetAsDefaultPushesOncePerEdgeThatItFillsAndOnceMore) {
+    const Record areas[] = {{0, 20, 301, 401}, {0, 0, 301, 401}, {0, 0, 1, 401}, {0, 0, 1, 1}, {0, 0, 1, 1}};
+    for (const Member& member : kMembers) {
+        SCOPED_TRACE(static_cast<int>(member.effect));
+        Session session(member.effect, member.With({10, 20, 301, 401}), kVideo, kDoubledFrame);
+        session.Run([&](DialogDriver& dialog) {
+            const std::string before = OwnPushes(session).front();
+            ClickDefault(dialog);
+            const Lines calls = session.host.Calls().Take();
+            for (const std::string& call : calls) session.host.Calls().Add(call);
+            std::string expected;
+            for (const Record& area : areas) expected += (expected.empty() ? "" : " ") + member.Sent(area, false);
+            EXPECT_EQ(AreaPushes(session).text, expected);
+            for (const std::string& call : calls) session.host.Calls().Add(call);
+            const Lines own = OwnPushes(session);
+            ASSERT_EQ(own.size(), std::size(areas));
+            // All else is set before the edges, but in Aging only "Enable" is.
+            EXPECT_EQ(own.back() == before, member.effect == EffectId::MotionScan || member.effect == EffectId::Mosaic);
+            for (const std::string& push : own) {
+                if (member.effect == EffectId::Aging && &push != &own.back()) {
+                    EXPECT_EQ(push, before);
+                } else {
+                    EXPECT_EQ(push, own.back());
+                }
+            }
+        });
+    }
+}
+
 TEST(AreaDialogs, TheEdgesFollowEnableAndTheSwitchOrTheSwitchAlone) {
     for (const Member& member : kMembers) {
         SCOPED_TRACE(static_cast<int>(member.effect));
@@ -197,6 +237,13 @@ TEST(AreaDialogs, TheEdgesFollowEnableAndTheSwitchOrTheSwitchAlone) {
             AreaPushes(session);
             SetText(dialog, 17, L"11");
             EXPECT_EQ(AreaPushes(session).text, member.Sent({11, 20, 301, 401})) << "the area is sent in any case";
+            dialog.Click({40, 305});
+            RECT edge{};
+            ::GetWindowRect(dialog.Child(17), &edge);
+            ::MapWindowPoints(nullptr, dialog.Window(), reinterpret_cast<POINT*>(&edge), 2);
+            AreaPushes(session);
+            dialog.Click({edge.left + 5, edge.top - 1});
+            EXPECT_EQ(AreaPushes(session).count, 0) << "an edit's frame";
         });
     }
 }

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include <afxwin.h>
+#include <windows.h>
 
 #include "effect_settings/effect_settings.h"
 

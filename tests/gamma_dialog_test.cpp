@@ -1,5 +1,6 @@
 // Gamma Correction from the host's call to its return, and with it the life cycle of all effect dialogs.
 #include <functional>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -215,6 +216,99 @@ TEST(GammaDialog, WorksWithoutAHost) {
               });
     EXPECT_EQ(result, 1);
     EXPECT_EQ(record.enabled, 0);
+}
+
+/// Calls the library again while its dialog is open, in ways that are refused.
+struct CallingHost : RecordingHost {
+    using RecordingHost::RecordingHost;
+    HRESULT STDMETHODCALLTYPE RefreshPreview() override {
+        IMediaHost* none = nullptr;
+        GammaCorrectionSettings record{1, 100};
+        EXPECT_EQ(ShowSettingsDialog(&none, static_cast<EffectId>(31), 1, 1, 1, 1, &record), 0);
+        EXPECT_EQ(ShowSettingsDialog(&none, EffectId::Color, 2, 2, 2, 2, nullptr), 0);
+        return RecordingHost::RefreshPreview();
+    }
+};
+
+TEST(GammaDialog, ARefusedCallMeanwhileChangesNothing) {
+    CallingHost host(EffectId::Mosaic);
+    IMediaHost* pointer = &host;
+    std::int32_t record[] = {1, 1, 1, 10, 20, 301, 401};
+    RunDialog([&] { ShowSettingsDialog(&pointer, EffectId::Mosaic, 720, 480, 360, 240, record); },
+              [&](DialogDriver& dialog) {
+                  EXPECT_TRUE(DialogDriver::WaitFor([&] { return host.RefreshedAtMs() != 0; }));
+                  host.Calls().Take();
+                  dialog.Click(kEnable);
+                  EXPECT_EQ(host.Calls().Take().back(), "filter.SetAreaParams(5, 10, 150, 200, 1, 0, 0, 1, 1, 0)");
+              });
+    EXPECT_EQ(host.Calls().Take(), ClosingCalls());
+    EXPECT_EQ(host.OpenReferences(), 0U);
+}
+
+TEST(GammaDialog, OneThatCannotBeCreatedTellsTheHostOfItsEnd) {
+    const HHOOK hook = ::SetWindowsHookExW(
+        WH_CBT,
+        [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+            const auto* window = reinterpret_cast<const CBT_CREATEWNDW*>(lParam);
+            if (code == HCBT_CREATEWND && (window->lpcs->style & WS_CHILD)) return 1;
+            return ::CallNextHookEx(nullptr, code, wParam, lParam);
+        },
+        nullptr, ::GetCurrentThreadId());
+    RecordingHost host(EffectId::GammaCorrection);
+    IMediaHost* pointer = &host;
+    GammaCorrectionSettings record{1, 100};
+    EXPECT_EQ(ShowSettingsDialog(&pointer, EffectId::GammaCorrection, 640, 480, 640, 480, &record), -1);
+    ::UnhookWindowsHookEx(hook);
+    Lines closing = ClosingCalls();
+    closing.pop_back();  // Nothing was in the chain.
+    EXPECT_EQ(host.Calls().Take(), closing);
+    EXPECT_EQ(host.OpenReferences(), 0U);
+}
+
+TEST(GammaDialog, EndsWhenItsWindowIsDestroyedFromOutside) {
+    for (const bool fromAnotherThread : {false, true}) {
+        SCOPED_TRACE(fromAnotherThread ? "by a message that another thread sent" : "by its own thread");
+        GammaSession session({1, 100});
+        session.Run([&](DialogDriver& dialog) {
+            static HWND window;
+            window = dialog.Window();
+            const HWND owner = ::GetWindow(window, GW_OWNER);
+            session.Calls();
+            if (fromAnotherThread) ::Sleep(600);  // Until the loop waits with nothing in its queue.
+            const auto destroy = [](HWND, UINT, UINT_PTR, DWORD) { ::DestroyWindow(window); };
+            if (fromAnotherThread) {
+                const auto proc = [](HWND self, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+                    if (message == WM_APP + 77) return ::DestroyWindow(window);
+                    return ::DefWindowProcW(self, message, wParam, lParam);
+                };
+                const auto before =
+                    ::SetWindowLongPtrW(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(proc)));
+                ::SendMessageW(owner, WM_APP + 77, 0, 0);
+                ::SetWindowLongPtrW(owner, GWLP_WNDPROC, before);
+            } else {
+                ::PostMessageW(owner, WM_TIMER, 0, reinterpret_cast<LPARAM>(static_cast<TIMERPROC>(destroy)));
+            }
+            EXPECT_TRUE(DialogDriver::WaitFor([&] { return ::IsWindowEnabled(owner) != FALSE; }));
+        });
+        EXPECT_EQ(session.result, -1);
+        EXPECT_EQ(session.Calls(), ClosingCalls());
+    }
+}
+
+TEST(GammaDialog, IsOwnedByTheActiveWindowOfWhateverThreadCalls) {
+    std::thread([] {
+        const HWND window = ::CreateWindowExW(
+            0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
+        ::SetActiveWindow(window);
+        GammaSession session({1, 100});
+        session.Run([&](DialogDriver& dialog) {
+            EXPECT_EQ(::GetWindow(dialog.Window(), GW_OWNER), window);
+            EXPECT_FALSE(::IsWindowEnabled(window));
+            dialog.Key(VK_RETURN);
+        });
+        EXPECT_EQ(session.result, 1);
+        ::DestroyWindow(window);
+    }).join();
 }
 
 TEST(GammaDialog, AMissingProcessorOrInterfaceIsSilent) {

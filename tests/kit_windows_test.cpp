@@ -373,7 +373,6 @@ TEST(MessageBox, AnswersByItsButtons) {
         INT_PTR result;
     } rows[] = {{"Yes", MessageButtons::YesNo, kLeft, IDYES},
                 {"No", MessageButtons::YesNo, kRight, IDNO},
-                {"closed question", MessageButtons::YesNo, kClose, IDCANCEL},
                 {"answer", MessageButtons::Answer, kRight, IDOK},
                 {"closed", MessageButtons::Answer, kClose, IDCANCEL}};
     for (const auto& row : rows) {
@@ -392,17 +391,48 @@ TEST(MessageBox, AnswersByItsButtons) {
                       driver.Click({60, 130});
                       EXPECT_TRUE(driver.IsOpen());
                       EXPECT_EQ(driver.Pixel(11, 121), RGB(20, 20, 20)) << "no extras";
+                      if (row.buttons == MessageButtons::YesNo) {
+                          driver.Click(kClose);
+                          EXPECT_TRUE(driver.IsOpen()) << "a question has no close button";
+                      }
                       driver.Click(row.at);
                   });
         EXPECT_EQ(result, row.result);
     }
 }
 
+/// Sees what its text gets at the start, and moves the pointer over the text in the middle of it.
+class CStartSpy : public CSkinMessageBox {
+public:
+    CStartSpy(std::vector<UINT>& seen, LPCWSTR title, LPCWSTR text) : CSkinMessageBox(title, text) { s_seen = &seen; }
+
+protected:
+    BOOL OnOpening() override {
+        const HWND text = ::GetDlgItem(m_hWnd, 99);
+        s_next =
+            reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(text, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&SpyProc)));
+        return CSkinMessageBox::OnOpening();
+    }
+
+private:
+    static LRESULT CALLBACK SpyProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == 1225 || message == WM_LBUTTONDOWN || message == WM_LBUTTONUP) s_seen->push_back(message);
+        const LRESULT result = ::CallWindowProcW(s_next, window, message, wParam, lParam);
+        if (message == WM_LBUTTONDOWN) ::SendMessageW(window, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(200, 40));
+        return result;
+    }
+
+    static inline std::vector<UINT>* s_seen = nullptr;
+    static inline WNDPROC s_next = nullptr;
+};
+
 TEST(MessageBox, ShowsItsTextReadOnlyAndScrolling) {
     CString text;
     for (int line = 0; line < 40; ++line) text += L"A line that is long enough to be one. ";
-    RunDialog([&] { CSkinMessageBox(L"Error!", text).DoModal(); },
+    std::vector<UINT> started;
+    RunDialog([&] { CStartSpy(started, L"Error!", text).DoModal(); },
               [&](DialogDriver& driver) {
+                  EXPECT_EQ(started, (std::vector<UINT>{1225, WM_LBUTTONDOWN, WM_LBUTTONUP}));
                   EXPECT_EQ(driver.Title(), L"Error!");
                   const HWND box = driver.Child(99);
                   EXPECT_EQ(::GetWindowTextLengthW(box), text.GetLength());

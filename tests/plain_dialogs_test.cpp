@@ -45,6 +45,8 @@ TEST(MotionEmboss, OneOfTheTwoModesIsSelected) {
             dialog.Click(click.at);
             EXPECT_NE(session.Pushes().find(click.bumpMap ? "put_BumpMap(-1)" : "put_BumpMap(0)"), std::string::npos);
         }
+        for (const int x : {101, 125, 149}) dialog.Click({x, 436});
+        EXPECT_EQ(session.Pushes(), "") << "between the two";
         dialog.Click({200, 436});
         dialog.Key(VK_RETURN);
     });
@@ -134,6 +136,60 @@ TEST(Deblocking, EveryKeystrokeIsPushedScaledAndSavedAsTyped) {
     EXPECT_EQ(session.record, (Record{1, 1, 48, 7, 0, 12, 0}));
 }
 
+TEST(Deblocking, SetAsDefaultPushesOncePerEditThatItFillsAndOnceMore) {
+    Session session(EffectId::Deblocking, {0, 1, 200, 70, 60, 10, 12}, {720, 480}, {720, 480});
+    session.Run([&](DialogDriver& dialog) {
+        session.Pushes();
+        ClickDefault(dialog);
+        const Setters push(
+            "put_Enable put_Algorithm put_BlockOffsetX put_BlockOffsetY put_BlockWidth put_BlockHeight "
+            "put_EdgeThreshold");
+        EXPECT_EQ(session.Pushes(), push({-1, 0, 0, 60, 10, 12, 200}) + " " + push({-1, 0, 0, 0, 10, 12, 200}) + " " +
+                                        push({-1, 0, 0, 0, 8, 12, 200}) + " " + push({-1, 0, 0, 0, 8, 8, 200}) + " " +
+                                        push({-1, 0, 0, 0, 8, 8, 48}));
+    });
+}
+
+TEST(Deblocking, AClosedListLeavesTheFocusAndTheCaretWhereTheyWere) {
+    Session session(EffectId::Deblocking, {1, 0, 48, 0, 120, 8, 8});
+    session.Run([&](DialogDriver& dialog) {
+        const HWND edit = dialog.Child(14);
+        const auto focus = [&dialog] {
+            GUITHREADINFO info{};
+            info.cbSize = sizeof(info);
+            ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
+            return info.hwndFocus;
+        };
+        const auto open = [&] {
+            dialog.Click({200, 330});
+            ASSERT_TRUE(DialogDriver::WaitFor([&] { return ::GetDlgCtrlID(focus()) == 90; }));
+        };
+        const std::function<void()> ways[] = {
+            [&] {
+                ::PostMessageW(focus(), WM_KEYDOWN, VK_DOWN, 1);
+                ::PostMessageW(focus(), WM_KEYDOWN, VK_RETURN, 1);
+            },
+            [&] { ::PostMessageW(focus(), WM_KEYDOWN, VK_ESCAPE, 1); },
+            [&] {
+                dialog.Click({200, 330});
+            }};
+        ::PostMessageW(edit, WM_LBUTTONDOWN, 0, MAKELPARAM(8, 8));
+        ::PostMessageW(edit, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
+        dialog.Settle();
+        ASSERT_EQ(focus(), edit);
+        ::SendMessageW(edit, EM_SETSEL, 1, 2);
+        for (const auto& close : ways) {
+            SCOPED_TRACE(&close - ways);
+            open();
+            close();
+            dialog.Settle();
+            dialog.Settle();
+            EXPECT_EQ(focus(), edit);
+            EXPECT_EQ(::SendMessageW(edit, EM_GETSEL, 0, 0), MAKELPARAM(1, 2));
+        }
+    });
+}
+
 TEST(Deblocking, TheThresholdBelongsToTheFourLineAlgorithm) {
     Session session(EffectId::Deblocking, {1, 1, 48, 0, 0, 8, 8});
     session.Run([&](DialogDriver& dialog) {
@@ -183,6 +239,8 @@ TEST(VideoRotation, AnUnknownAngleIsMendedAtOnceAndOneAngleIsSelected) {
             dialog.Click({click.x, 380});
             EXPECT_EQ(session.Pushes(), click.push);
         }
+        for (const int x : {121, 139, 241, 259, 361, 379}) dialog.Click({x, 380});
+        EXPECT_EQ(session.Pushes(), "") << "between two choices";
         dialog.Click({160, 380});
         dialog.Key(VK_ESCAPE);
     });

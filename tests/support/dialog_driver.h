@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include <afxwin.h>
+#include <windows.h>
 
 /// The hands and eyes of a script. Every action returns when the dialog's thread has handled it.
 class DialogDriver {
