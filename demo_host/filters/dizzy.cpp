@@ -30,7 +30,8 @@ private:
         const float sine = std::sin(angle) / zoom;
         const float middleX = static_cast<float>(frame.width - 1) / 2.0F;
         const float middleY = static_cast<float>(frame.height - 1) / 2.0F;
-        const bool smear = m_last.width == frame.width && m_last.height == frame.height;
+        const bool moves = m_zoom > 0 || m_speed > 0;
+        const bool smear = moves && m_last.width == frame.width && m_last.height == frame.height;
         if (!smear) m_last = Frame(frame.width, frame.height);
         std::uint32_t* last = m_last.pixels.data();
         for (int y = 0; y < frame.height; ++y) {

@@ -21,7 +21,7 @@ private:
         if (number % 3 == 0) {
             for (int y = 0; y < frame.height; y += 2) {
                 for (int x = 0; x < frame.width; x += 2) {
-                    if (motion[static_cast<std::size_t>(y) * frame.width + x]) m_water.Disturb(x, y, 1, 12.0F);
+                    if (motion[static_cast<std::size_t>(y) * frame.width + x]) m_water.Disturb(x, y, 1, 6.0F);
                 }
             }
         }
