@@ -2,7 +2,6 @@
 #include <afxdlgs.h>
 
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 #include "skin/color_swatch.h"
 
 namespace {
@@ -11,9 +10,6 @@ namespace {
 constexpr int kRandomColor = 0;
 constexpr int kOriginalColor = 1;
 constexpr int kCustomColor = 2;
-
-constexpr COLORREF kDefaultDustColor = 0x000000;
-constexpr COLORREF kDefaultPitsColor = 0x969696;
 
 /// The settings of dust or of pits: both look and work alike.
 struct Specks {
@@ -35,9 +31,22 @@ struct Wording {
     LPCWSTR help;
 };
 
+struct SpecksFields {
+    using Field = std::int32_t AgingSettings::*;
+
+    Field on;
+    Field random;
+    Field randomDensity;
+    Field always;
+    Field density;
+    Field colorMode;
+    Field color;
+};
+
 /// What differs between dust and pits.
 struct SpecksSetup {
     UINT firstId;  ///< The others follow in the order of the controls.
+    SpecksFields fields;
     Wording on;
     Wording random;
     LPCWSTR randomDensityHelp;
@@ -53,6 +62,9 @@ struct SpecksSetup {
 
 constexpr SpecksSetup kDust = {
     .firstId = 30,
+    .fields = {&AgingSettings::dust, &AgingSettings::randomDust, &AgingSettings::dustRandomDensity,
+               &AgingSettings::alwaysAddDust, &AgingSettings::dustDensity, &AgingSettings::dustColorMode,
+               &AgingSettings::dustColor},
     .on = {L"Enable Dust", L"If checked, will add dust on the video."},
     .random = {L"Random dust", L"If checked, dust should be added randomly."},
     .randomDensityHelp =
@@ -61,7 +73,7 @@ constexpr SpecksSetup kDust = {
     .always = {L"Always add dust",
                L"If checked, dust should appear in every frame, if un-checked, dust should be "
                L"added to random frames."},
-    .density = {L"Dust density(0 - 100):",
+    .density = {L"Dust density(%d - %d):",
                 L"Controls the density of the dust added on the video. Used only if Random density is checked. "},
     .colorsLabel = L"Dust Colors:",
     .randomColorHelp = L"If checked, random color is used for the dust.",
@@ -72,6 +84,9 @@ constexpr SpecksSetup kDust = {
 
 constexpr SpecksSetup kPits = {
     .firstId = 40,
+    .fields = {&AgingSettings::pits, &AgingSettings::randomPits, &AgingSettings::pitsRandomDensity,
+               &AgingSettings::alwaysAddPits, &AgingSettings::pitsDensity, &AgingSettings::pitsColorMode,
+               &AgingSettings::pitsColor},
     .on = {L"Enable Pits", L"If checked, will add Pits on the video."},
     .random = {L"Random pits", L"If checked, Pits should be added randomly."},
     .randomDensityHelp =
@@ -80,7 +95,7 @@ constexpr SpecksSetup kPits = {
     .always = {L"Always add pits",
                L"If checked, Pits should appear in every frame, if un-checked, Pits should be "
                L"added to random frames."},
-    .density = {L"Pits density(0 - 100):",
+    .density = {L"Pits density(%d - %d):",
                 L"Controls the density of the Pits added on the video. Used only if Random density is checked."},
     .colorsLabel = L"Pits Colors:",
     .randomColorHelp = L"If checked, random color is used for the Pits.",
@@ -89,106 +104,55 @@ constexpr SpecksSetup kPits = {
     .setColorHelp = L"Set Custom Pits Color.",
     .colorHelp = L"Custom Pits Color."};
 
-class CAgingDlg : public CAreaDlg<IEffectAging, AgingSettings> {
-public:
-    CAgingDlg() : CAreaDlg(EffectId::Aging) {}
-
-private:
+class CAgingDlg : public CAreaDlg<EffectId::Aging> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_maxScratches,
-                         {.id = 11,
-                          .label = L"Maximum number of scratches(0 - 100):",
-                          .min = 0,
-                          .max = 100,
-                          .field = &m_settings->maxScratches,
-                          .standard = 2,
-                          .help = L"Set the Max number of scratch lines in a frame."}) &&
-               AddCheckBox(m_oldColor, {.id = 14,
-                                        .text = L"Enable Old Color",
-                                        .field = &m_settings->oldColor,
-                                        .standard = 1,
-                                        .help = L"Indicates whether to apply the old style movie colors."}) &&
+        return AddEnable() &&
+               AddSlider(m_maxScratches, &AgingSettings::maxScratches,
+                         {11, L"Maximum number of scratches(%d - %d):", 0, 100,
+                          L"Set the Max number of scratch lines in a frame."}) &&
+               AddCheckBox(m_oldColor, &AgingSettings::oldColor,
+                           {14, L"Enable Old Color", L"Indicates whether to apply the old style movie colors."}) &&
                AddLabel(m_oldColorLine, L"") &&
                AddArea({.heading = L"Enable Video Aging Effect on below Area:",
                         .switchHelp = L"Enable Video Aging Effect on below Area:"}) &&
                AddRadioGroup(
-                   m_channel,
-                   {.field = &m_settings->channel,
-                    .value = m_settings->channel,
-                    .standard = 0,
-                    .choices = {{23, 0, L"All", L"The aging effect is applied to all channels."},
-                                {24, 1, L"Channel 1", L"First channel is used in generating the aging effect."},
-                                {25, 2, L"Channel 2", L"Second channel is used in generating the aging effect."},
-                                {26, 3, L"Channel 3", L"Third channel is used in generating the aging effect."},
-                                {27, 4, L"Luminence",
-                                 L"Luminance is calculated from the three channels and is used in generating the aging "
-                                 L"effect."}}}) &&
-               AddCheckBox(m_scratches, {.id = 28,
-                                         .text = L"Enable Scratches",
-                                         .field = &m_settings->scratches,
-                                         .standard = 1,
-                                         .help = L"If checked, will add scratch lines on the video."}) &&
+                   m_channel, &AgingSettings::channel,
+                   {{23, 0, L"All", L"The aging effect is applied to all channels."},
+                    {24, 1, L"Channel 1", L"First channel is used in generating the aging effect."},
+                    {25, 2, L"Channel 2", L"Second channel is used in generating the aging effect."},
+                    {26, 3, L"Channel 3", L"Third channel is used in generating the aging effect."},
+                    {27, 4, L"Luminence",
+                     L"Luminance is calculated from the three channels and is used in generating the aging "
+                     L"effect."}}) &&
+               AddCheckBox(m_scratches, &AgingSettings::scratches,
+                           {28, L"Enable Scratches", L"If checked, will add scratch lines on the video."}) &&
                AddLabel(m_scratchesLine, L"") &&
-               AddSlider(m_scratchHeight,
-                         {.id = 29,
-                          .label = L"Scratch height(1 - 1600):",
-                          .min = 1,
-                          .max = 1600,
-                          .field = &m_settings->scratchHeight,
-                          .standard = 1600,
-                          .help = L"Set the Max scratch height."}) &&
-               AddSpecks(m_dust, kDust,
-                         {&m_settings->dust, &m_settings->randomDust, &m_settings->dustRandomDensity,
-                          &m_settings->alwaysAddDust, &m_settings->dustDensity, &m_settings->dustColorMode,
-                          &m_settings->dustColor}) &&
-               AddSpecks(m_pits, kPits,
-                         {&m_settings->pits, &m_settings->randomPits, &m_settings->pitsRandomDensity,
-                          &m_settings->alwaysAddPits, &m_settings->pitsDensity, &m_settings->pitsColorMode,
-                          &m_settings->pitsColor});
+               AddSlider(m_scratchHeight, &AgingSettings::scratchHeight,
+                         {29, L"Scratch height(%d - %d):", 1, 1600, L"Set the Max scratch height."}) &&
+               AddSpecks(m_dust, kDust) && AddSpecks(m_pits, kPits);
     }
 
-    struct SpecksFields {
-        std::int32_t* on;
-        std::int32_t* random;
-        std::int32_t* randomDensity;
-        std::int32_t* always;
-        std::int32_t* density;
-        std::int32_t* colorMode;
-        std::int32_t* color;
-    };
-
-    bool AddSpecks(Specks& specks, const SpecksSetup& setup, const SpecksFields& fields) {
-        const auto addBox =
-            [&](CSkinCheckBox& box, UINT offset, const Wording& words, std::int32_t* field, int standard) {
-                return AddCheckBox(box, {.id = setup.firstId + offset,
-                                         .text = words.text,
-                                         .field = field,
-                                         .standard = standard,
-                                         .help = words.help});
-            };
-        specks.color.SetColor(static_cast<COLORREF>(*fields.color) & 0xFFFFFF);
+    bool AddSpecks(Specks& specks, const SpecksSetup& setup) {
+        const auto addBox = [&](CSkinCheckBox& box, UINT offset, SettingsField field, const Wording& words) {
+            return AddCheckBox(box, field, {setup.firstId + offset, words.text, words.help});
+        };
+        CColorSwatch& color = specks.color;
+        color.SetColor(static_cast<COLORREF>(m_settings->*setup.fields.color) & 0xFFFFFF);
+        Bind(setup.fields.color, {.get = [&color] { return static_cast<int>(color.Color()); },
+                                  .set = [&color](int value) { color.SetColor(static_cast<COLORREF>(value)); }});
         Hear(setup.firstId + 8);
-        return addBox(specks.on, 0, setup.on, fields.on, 1) && AddLabel(specks.line, L"") &&
-               addBox(specks.random, 1, setup.random, fields.random, 1) &&
-               addBox(specks.randomDensity, 2, {L"Random density", setup.randomDensityHelp}, fields.randomDensity, 1) &&
-               addBox(specks.always, 3, setup.always, fields.always, 0) &&
-               AddSlider(specks.density,
-                         {.id = setup.firstId + 4,
-                          .label = setup.density.text,
-                          .min = 0,
-                          .max = 100,
-                          .field = fields.density,
-                          .standard = 1,
-                          .help = setup.density.help}) &&
+        const SpecksFields& fields = setup.fields;
+        return addBox(specks.on, 0, fields.on, setup.on) && AddLabel(specks.line, L"") &&
+               addBox(specks.random, 1, fields.random, setup.random) &&
+               addBox(specks.randomDensity, 2, fields.randomDensity, {L"Random density", setup.randomDensityHelp}) &&
+               addBox(specks.always, 3, fields.always, setup.always) &&
+               AddSlider(specks.density, fields.density,
+                         {setup.firstId + 4, setup.density.text, 0, 100, setup.density.help}) &&
                AddLabel(specks.colorsLabel, setup.colorsLabel) &&
-               AddRadioGroup(specks.colors,
-                             {.field = fields.colorMode,
-                              .value = *fields.colorMode,
-                              .standard = kOriginalColor,
-                              .choices = {{setup.firstId + 5, kRandomColor, L"Random", setup.randomColorHelp},
-                                          {setup.firstId + 6, kOriginalColor, L"Original", setup.originalColorHelp},
-                                          {setup.firstId + 7, kCustomColor, L"Custom", setup.customColorHelp}}}) &&
+               AddRadioGroup(specks.colors, fields.colorMode,
+                             {{setup.firstId + 5, kRandomColor, L"Random", setup.randomColorHelp},
+                              {setup.firstId + 6, kOriginalColor, L"Original", setup.originalColorHelp},
+                              {setup.firstId + 7, kCustomColor, L"Custom", setup.customColorHelp}}) &&
                AddItem(specks.setColor, L"Set Color...", setup.firstId + 8, setup.setColorHelp) &&
                AddItem(specks.color, L"", setup.firstId + 9, setup.colorHelp);
     }
@@ -288,42 +252,34 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectAging::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectAging::put_Enable, m_enable);
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
-        Put(&IEffectAging::put_OldColor, AutomationBool(m_oldColor));
+        Put(&IEffectAging::put_OldColor, m_oldColor);
         if (const auto channel = m_channel.Value()) Put(&IEffectAging::put_Channel, 1 << *channel);
-        Put(&IEffectAging::put_Scratches, AutomationBool(m_scratches));
-        Put(&IEffectAging::put_MaxScratches, m_maxScratches.Value());
-        Put(&IEffectAging::put_ScratchHeight, m_scratchHeight.Value());
-        Put(&IEffectAging::put_Dust, AutomationBool(m_dust.on));
-        Put(&IEffectAging::put_RandomDust, AutomationBool(m_dust.random));
-        Put(&IEffectAging::put_DustRandomDensity, AutomationBool(m_dust.randomDensity));
-        Put(&IEffectAging::put_AlwaysAddDust, AutomationBool(m_dust.always));
-        Put(&IEffectAging::put_DustDensity, m_dust.density.Value());
+        Put(&IEffectAging::put_Scratches, m_scratches);
+        Put(&IEffectAging::put_MaxScratches, m_maxScratches);
+        Put(&IEffectAging::put_ScratchHeight, m_scratchHeight);
+        Put(&IEffectAging::put_Dust, m_dust.on);
+        Put(&IEffectAging::put_RandomDust, m_dust.random);
+        Put(&IEffectAging::put_DustRandomDensity, m_dust.randomDensity);
+        Put(&IEffectAging::put_AlwaysAddDust, m_dust.always);
+        Put(&IEffectAging::put_DustDensity, m_dust.density);
         if (const auto mode = m_dust.colors.Value()) Put(&IEffectAging::put_DustColorMode, 1 << *mode);
         Put(&IEffectAging::put_DustColor, static_cast<LONG>(m_dust.color.Color()));
-        Put(&IEffectAging::put_Pits, AutomationBool(m_pits.on));
-        Put(&IEffectAging::put_RandomPits, AutomationBool(m_pits.random));
-        Put(&IEffectAging::put_PitsRandomDensity, AutomationBool(m_pits.randomDensity));
-        Put(&IEffectAging::put_AlwaysAddPits, AutomationBool(m_pits.always));
-        Put(&IEffectAging::put_PitsDensity, m_pits.density.Value());
+        Put(&IEffectAging::put_Pits, m_pits.on);
+        Put(&IEffectAging::put_RandomPits, m_pits.random);
+        Put(&IEffectAging::put_PitsRandomDensity, m_pits.randomDensity);
+        Put(&IEffectAging::put_AlwaysAddPits, m_pits.always);
+        Put(&IEffectAging::put_PitsDensity, m_pits.density);
         if (const auto mode = m_pits.colors.Value()) Put(&IEffectAging::put_PitsColorMode, 1 << *mode);
         Put(&IEffectAging::put_PitsColor, static_cast<LONG>(m_pits.color.Color()));
     }
 
-    void SaveSettings() override {
-        CAreaDlg::SaveSettings();
-        m_settings->dustColor = static_cast<std::int32_t>(m_dust.color.Color());
-        m_settings->pitsColor = static_cast<std::int32_t>(m_pits.color.Color());
-    }
-
     void SetDefaults() override {
         // Here the area comes right after "Enable"; each of its edges that is filled pushes what else is set so far.
-        m_enable.SetChecked(true);
-        m_area.Set(false, kDefaultEffectArea);
+        m_enable.SetChecked(kDefaults.enabled != 0);
+        SetDefaultArea();
         CRecordDlg::SetDefaults();
-        m_dust.color.SetColor(kDefaultDustColor);
-        m_pits.color.SetColor(kDefaultPitsColor);
     }
 
     static constexpr int kLeft = 20;

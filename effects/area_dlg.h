@@ -15,22 +15,22 @@ enum class InvalidArea {
 /// When such a filter gets the area's switch.
 enum class AreaSwitch { BeforeEdges, AfterEdges, BeforeValidEdgesOnly };
 
-template <typename Filter, typename Settings>
-class CAreaDlg : public CEffectDlg<Filter, Settings> {
+template <EffectId Id>
+class CAreaDlg : public CEffectDlg<Id> {
 protected:
+    using typename CEffectDlg<Id>::Filter;
+    using typename CEffectDlg<Id>::Settings;
+
     /// The record's area is mended here, before anything is shown. Sliders have the preview panel's usual id.
-    explicit CAreaDlg(EffectId id)
-        : CEffectDlg<Filter, Settings>(id, {.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {
-        auto& settings = *this->m_settings;
-        StoreEdges(ClampEffectArea({settings.left, settings.top, settings.right, settings.bottom}, VideoSize()));
+    CAreaDlg() : CEffectDlg<Id>({.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {
+        StoreEdges(ClampEffectArea(EdgesOf(*this->m_settings), VideoSize()));
     }
 
     bool AddArea(const CAreaControls::Texts& texts = {}) {
-        const auto& settings = *this->m_settings;
         this->Hear(CAreaControls::kSwitchId);
         for (const UINT id : CAreaControls::kEdgeIds) this->Hear(id, EN_CHANGE);
-        return m_area.Create(
-            *this, settings.areaEnabled != 0, {settings.left, settings.top, settings.right, settings.bottom}, texts);
+        const Settings& settings = *this->m_settings;
+        return m_area.Create(*this, settings.areaEnabled != 0, EdgesOf(settings), texts);
     }
 
     /// Places the area below the other controls, and the help panel below it.
@@ -42,14 +42,14 @@ protected:
     CValueSlider::Places Row(int y) const { return CRecordDlg::Row(y, 155, 180, 50); }
 
     void SyncControls() override {
-        CEffectDlg<Filter, Settings>::SyncControls();
+        CEffectDlg<Id>::SyncControls();
         m_area.SetEnabled(this->m_enable.IsChecked());
     }
 
     void OnClicked(UINT id) override {
         // Here the edges follow their own switch alone, on purpose.
         if (id == CAreaControls::kSwitchId) m_area.SetEdgesEnabled(m_area.IsOn());
-        CEffectDlg<Filter, Settings>::OnClicked(id);
+        CEffectDlg<Id>::OnClicked(id);
     }
 
     bool Validate() override {
@@ -59,15 +59,16 @@ protected:
     }
 
     void SaveSettings() override {
-        CEffectDlg<Filter, Settings>::SaveSettings();
+        CEffectDlg<Id>::SaveSettings();
         this->m_settings->areaEnabled = m_area.IsOn();
         StoreEdges(m_area.Typed());
     }
 
     void SetDefaults() override {
-        CEffectDlg<Filter, Settings>::SetDefaults();
-        m_area.Set(false, kDefaultEffectArea);
+        CEffectDlg<Id>::SetDefaults();
+        SetDefaultArea();
     }
+    void SetDefaultArea() { m_area.Set(this->kDefaults.areaEnabled != 0, EdgesOf(this->kDefaults)); }
 
     /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
     AreaParams AreaStructure() const {
@@ -102,6 +103,9 @@ protected:
     CAreaControls m_area;
 
 private:
+    static RECT EdgesOf(const Settings& settings) {
+        return {settings.left, settings.top, settings.right, settings.bottom};
+    }
     static SIZE VideoSize() { return {g_VideoWidth, g_VideoHeight}; }
     static bool IsValid(const RECT& area) { return ValidateEffectArea(area, VideoSize()); }
     static RECT InFrame(const RECT& area) { return ScaleEffectArea(area, VideoSize(), {g_FrameWidth, g_FrameHeight}); }

@@ -1,60 +1,29 @@
 // Audio Chorus: the one effect of the audio chain. All its values travel in one structure.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CAudioChorusDlg : public CEffectDlg<IEffectAudioChorus, AudioChorusSettings> {
+class CAudioChorusDlg : public CEffectDlg<EffectId::AudioChorus> {
 public:
-    CAudioChorusDlg() : CEffectDlg(EffectId::AudioChorus, {.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {}
+    CAudioChorusDlg() : CEffectDlg({.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {}
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_wetMix, {.id = 11,
-                                    .label = L"Wet Mix(-100 - 100)(%):",
-                                    .min = -100,
-                                    .max = 100,
-                                    .offset = 100,
-                                    .field = &m_settings->wetMix,
-                                    .standard = 50,
-                                    .help = L"Controls the level of processed signals"}) &&
-               AddSlider(m_dryMix, {.id = 12,
-                                    .label = L"Dry Mix(-100 - 100)(%):",
-                                    .min = -100,
-                                    .max = 100,
-                                    .offset = 100,
-                                    .field = &m_settings->dryMix,
-                                    .standard = 70,
-                                    .help = L"Controls the level of unprocessed signals"}) &&
-               AddSlider(m_feedback,
-                         {.id = 13,
-                          .label = L"Feedback(-100 - 100)(%):",
-                          .min = -100,
-                          .max = 100,
-                          .offset = 100,
-                          .field = &m_settings->feedback,
-                          .standard = 25,
-                          .help = L"Controls the feedback of the repeated signal, zero feedback will result in only a "
-                                  L"single repeat, while nonzero feedback settings will generate numerous repeats."}) &&
-               AddSlider(
-                   m_delay,
-                   {.id = 22,
-                    .label = L"Delay(0 - 500)(ms):",
-                    .min = 0,
-                    .max = 500,
-                    .field = &m_settings->delay,
-                    .standard = 500,
-                    .help =
-                        L"Controls the level of the chorus effect. Larger values result in greater delay times."}) &&
-               AddSlider(m_stereo,
-                         {.id = 23,
-                          .label = L"Stereo(0 - 180)(degrees):",
-                          .min = 0,
-                          .max = 180,
-                          .field = &m_settings->stereo,
-                          .standard = 90,
-                          .help = L"Stereo represents the phase difference between the left and right channel."});
+        return AddEnable() &&
+               AddSlider(m_wetMix, &AudioChorusSettings::wetMix,
+                         {11, L"Wet Mix(%d - %d)(%%):", -100, 100, L"Controls the level of processed signals"}) &&
+               AddSlider(m_dryMix, &AudioChorusSettings::dryMix,
+                         {12, L"Dry Mix(%d - %d)(%%):", -100, 100, L"Controls the level of unprocessed signals"}) &&
+               AddSlider(m_feedback, &AudioChorusSettings::feedback,
+                         {13, L"Feedback(%d - %d)(%%):", -100, 100,
+                          L"Controls the feedback of the repeated signal, zero feedback will result in only a "
+                          L"single repeat, while nonzero feedback settings will generate numerous repeats."}) &&
+               AddSlider(m_delay, &AudioChorusSettings::delay,
+                         {22, L"Delay(%d - %d)(ms):", 0, 500,
+                          L"Controls the level of the chorus effect. Larger values result in greater delay times."}) &&
+               AddSlider(m_stereo, &AudioChorusSettings::stereo,
+                         {23, L"Stereo(%d - %d)(degrees):", 0, 180,
+                          L"Stereo represents the phase difference between the left and right channel."});
         // No control stands for combineWetDry: it stays in the record as it came.
     }
 

@@ -1,25 +1,14 @@
 // Brightness: the brightness of what moves.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CBrightnessDlg : public CMotionDlg<IEffectBrightness, BrightnessSettings> {
-public:
-    CBrightnessDlg() : CMotionDlg(EffectId::Brightness) {}
-
-private:
+class CBrightnessDlg : public CMotionDlg<EffectId::Brightness> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddThreshold() &&
-               AddSlider(m_brightness,
-                         {.id = 13,
-                          .label = L"Brightness(-1000 - 1000):",
-                          .min = -1000,
-                          .max = 1000,
-                          .offset = 1000,
-                          .field = &m_settings->brightness,
-                          .standard = 100,
-                          .help = L"The relative lightness or darkness of a color"}) &&
+        return AddEnable() && AddThreshold() &&
+               AddSlider(
+                   m_brightness, &BrightnessSettings::brightness,
+                   {13, L"Brightness(%d - %d):", -1000, 1000, L"The relative lightness or darkness of a color"}) &&
                AddFirstFrame(
                    L"Enables or disables setting the first frame in every play session as the reference frame.");
     }
@@ -33,11 +22,11 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectBrightness::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectBrightness::put_Threshold, m_threshold.Value());
+        Put(&IEffectBrightness::put_Enable, m_enable);
+        Put(&IEffectBrightness::put_Threshold, m_threshold);
         // The push subtracts before truncating, OK and the number after: 999.5 sends 0 and saves -1. Hosts rely on both.
         Put(&IEffectBrightness::put_Brightness, m_brightness.Sent());
-        Put(&IEffectBrightness::put_FirstFrameReference, AutomationBool(m_firstFrame));
+        Put(&IEffectBrightness::put_FirstFrameReference, m_firstFrame);
     }
 
     CValueSlider m_brightness;

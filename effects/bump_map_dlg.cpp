@@ -2,61 +2,34 @@
 #include <algorithm>
 
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CBumpMapDlg : public CAreaDlg<IEffectBumpMap, BumpMapSettings> {
-public:
-    CBumpMapDlg() : CAreaDlg(EffectId::BumpMap) {}
-
-private:
+class CBumpMapDlg : public CAreaDlg<EffectId::BumpMap> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_lightAngle,
-                         {.id = 11,
-                          .label = L"Light Angle(0 - 360):",
-                          .min = 0,
-                          .max = 360,
-                          .field = &m_settings->lightAngle,
-                          .standard = 135,
-                          .help = L"Controls the light angle on a horizontal plane(0-360 degree)."}) &&
-               AddSlider(m_elevation,
-                         {.id = 12,
-                          .label = L"Elevation(0 - 90):",
-                          .min = 0,
-                          .max = 90,
-                          .field = &m_settings->elevation,
-                          .standard = 45,
-                          .help = L"Controls the light angle on a vertical plane(0-90 degree)."}) &&
-               AddSlider(m_depth, {.id = 13,
-                                   .label = L"Depth(1 - 65):",
-                                   .min = 1,
-                                   .max = 65,
-                                   .field = &m_settings->depth,
-                                   .standard = 3,
-                                   .help = L"Controls the depth of the object, which will affect the shadow. 0 creates "
-                                           L"no shadow, higher values create deeper shadows."}) &&
-               AddSlider(m_ambient,
-                         {.id = 22,
-                          .label = L"Ambient(0 - 255):",
-                          .min = 0,
-                          .max = 255,
-                          .field = &m_settings->ambient,
-                          .standard = 0,
-                          .help = L"Controls the relative strength of a directional light, used to control "
-                                  L"the shadow intensity. A higher value results in less shadow."}) &&
-               AddOffset(m_xOffset, {23, L"X offset(%d - %d)", g_VideoWidth, &m_settings->xOffset,
+        return AddEnable() &&
+               AddSlider(m_lightAngle, &BumpMapSettings::lightAngle,
+                         {11, L"Light Angle(%d - %d):", 0, 360,
+                          L"Controls the light angle on a horizontal plane(0-360 degree)."}) &&
+               AddSlider(m_elevation, &BumpMapSettings::elevation,
+                         {12, L"Elevation(%d - %d):", 0, 90,
+                          L"Controls the light angle on a vertical plane(0-90 degree)."}) &&
+               AddSlider(m_depth, &BumpMapSettings::depth,
+                         {13, L"Depth(%d - %d):", 1, 65,
+                          L"Controls the depth of the object, which will affect the shadow. 0 creates "
+                          L"no shadow, higher values create deeper shadows."}) &&
+               AddSlider(m_ambient, &BumpMapSettings::ambient,
+                         {22, L"Ambient(%d - %d):", 0, 255,
+                          L"Controls the relative strength of a directional light, used to control "
+                          L"the shadow intensity. A higher value results in less shadow."}) &&
+               AddOffset(m_xOffset, {23, L"X offset(%d - %d)", g_VideoWidth, &BumpMapSettings::xOffset,
                                      L"Horizontal offset of the resulting frames. Negative values shift to the left, "
                                      L"positive values shift to the right."}) &&
-               AddOffset(m_yOffset, {24, L"Y offset(%d - %d)", g_VideoHeight, &m_settings->yOffset,
+               AddOffset(m_yOffset, {24, L"Y offset(%d - %d)", g_VideoHeight, &BumpMapSettings::yOffset,
                                      L"Vertical offset of the resulting frames. Negative values shift down, positive "
                                      L"values shift up."}) &&
-               AddCheckBox(m_invert, {.id = 14,
-                                      .text = L"Invert",
-                                      .field = &m_settings->invert,
-                                      .standard = 0,
-                                      .help = L"If checked, invert shadow and light."}) &&
+               AddCheckBox(
+                   m_invert, &BumpMapSettings::invert, {14, L"Invert", L"If checked, invert shadow and light."}) &&
                AddArea({.switchHelp = L"Enable Effect on below Area:"});
     }
 
@@ -73,12 +46,12 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectBumpMap::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectBumpMap::put_Invert, AutomationBool(m_invert));
-        Put(&IEffectBumpMap::put_LightAngle, m_lightAngle.Value());
-        Put(&IEffectBumpMap::put_Elevation, m_elevation.Value());
-        Put(&IEffectBumpMap::put_Depth, m_depth.Value());
-        Put(&IEffectBumpMap::put_Ambient, m_ambient.Value());
+        Put(&IEffectBumpMap::put_Enable, m_enable);
+        Put(&IEffectBumpMap::put_Invert, m_invert);
+        Put(&IEffectBumpMap::put_LightAngle, m_lightAngle);
+        Put(&IEffectBumpMap::put_Elevation, m_elevation);
+        Put(&IEffectBumpMap::put_Depth, m_depth);
+        Put(&IEffectBumpMap::put_Ambient, m_ambient);
         Put(&IEffectBumpMap::put_XOffset, m_xOffset.Sent());
         Put(&IEffectBumpMap::put_YOffset, m_yOffset.Sent());
         PutArea(InvalidArea::SendAsIs, AreaSwitch::AfterEdges);
@@ -88,7 +61,7 @@ private:
         UINT id;
         LPCWSTR label;
         int videoSize;
-        std::int32_t* field;
+        SettingsField field;
         LPCWSTR help;
     };
 
@@ -98,16 +71,8 @@ private:
         CString label;
         label.Format(offset.label, -farthest, farthest);
         return AddSlider(
-            slider,
-            {.id = offset.id,
-             .label = label,
-             .min = -farthest,
-             .max = (std::max)(farthest, 1),
-             .offset = farthest,
-             .field = offset.field,
-             .standard = 0,
-             .help = offset.help,
-             .number = CValueSlider::Number::Sent});
+            slider, offset.field,
+            {offset.id, label, -farthest, (std::max)(farthest, 1), offset.help, CValueSlider::Number::Sent});
     }
 
     CValueSlider m_lightAngle;

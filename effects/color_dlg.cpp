@@ -1,60 +1,26 @@
 // Color: hue, saturation, brightness and contrast of the video.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CColorDlg : public CAreaDlg<IEffectColor, ColorSettings> {
-public:
-    CColorDlg() : CAreaDlg(EffectId::Color) {}
-
-private:
+class CColorDlg : public CAreaDlg<EffectId::Color> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_hue, {.id = 11,
-                                 .label = L"Hue(-180 - 180):",
-                                 .min = -180,
-                                 .max = 180,
-                                 .offset = 180,
-                                 .field = &m_settings->hue,
-                                 .standard = 0,
-                                 .help = L"The color reflected from or transmitted through an object.",
-                                 .number = CValueSlider::Number::Sent}) &&
-               AddSlider(m_saturation,
-                         {.id = 12,
-                          .label = L"Saturation(-100 - 100):",
-                          .min = -100,
-                          .max = 100,
-                          .offset = 100,
-                          .field = &m_settings->saturation,
-                          .standard = 0,
-                          .help = L"The strength or purity of a color.",
-                          .number = CValueSlider::Number::Sent}) &&
-               AddSlider(m_brightness,
-                         {.id = 13,
-                          .label = L"Brightness(-100 - 100):",
-                          .min = -100,
-                          .max = 100,
-                          .offset = 100,
-                          .field = &m_settings->brightness,
-                          .standard = 0,
-                          .help = L"The relative lightness or darkness of a color.",
-                          .number = CValueSlider::Number::Sent}) &&
-               AddSlider(m_contrast,
-                         {.id = 22,
-                          .label = L"Contrast(-100 - 100):",
-                          .min = -100,
-                          .max = 100,
-                          .offset = 100,
-                          .field = &m_settings->contrast,
-                          .standard = 0,
-                          .help = L"Describes apparent difference in lightness between lighter and darker pixels.",
-                          .number = CValueSlider::Number::Sent}) &&
-               AddCheckBox(m_invert, {.id = 14,
-                                      .text = L"Invert",
-                                      .field = &m_settings->invert,
-                                      .standard = 0,
-                                      .help = L"If selected, the colors will be inverted."}) &&
+        return AddEnable() &&
+               AddSlider(m_hue, &ColorSettings::hue,
+                         {11, L"Hue(%d - %d):", -180, 180,
+                          L"The color reflected from or transmitted through an object.", CValueSlider::Number::Sent}) &&
+               AddSlider(m_saturation, &ColorSettings::saturation,
+                         {12, L"Saturation(%d - %d):", -100, 100, L"The strength or purity of a color.",
+                          CValueSlider::Number::Sent}) &&
+               AddSlider(m_brightness, &ColorSettings::brightness,
+                         {13, L"Brightness(%d - %d):", -100, 100, L"The relative lightness or darkness of a color.",
+                          CValueSlider::Number::Sent}) &&
+               AddSlider(m_contrast, &ColorSettings::contrast,
+                         {22, L"Contrast(%d - %d):", -100, 100,
+                          L"Describes apparent difference in lightness between lighter and darker pixels.",
+                          CValueSlider::Number::Sent}) &&
+               AddCheckBox(
+                   m_invert, &ColorSettings::invert, {14, L"Invert", L"If selected, the colors will be inverted."}) &&
                AddArea();
     }
 

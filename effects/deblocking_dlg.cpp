@@ -1,18 +1,13 @@
 // Deblocking: which algorithm smooths the edges of blocks, where they lie and how strongly.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 #include "effects/frame_scale.h"
 #include "skin/combo_list_box.h"
 
 namespace {
 
-class CDeblockingDlg : public CEffectDlg<IEffectDeblocking, DeblockingSettings> {
-public:
-    CDeblockingDlg() : CEffectDlg(EffectId::Deblocking) {}
-
-private:
+class CDeblockingDlg : public CEffectDlg<EffectId::Deblocking> {
     bool CreateControls() override {
-        if (!AddEnable(m_settings->enabled) || !AddLabel(m_algorithmLabel, L"Deblocking Algorithm:") ||
+        if (!AddEnable() || !AddLabel(m_algorithmLabel, L"Deblocking Algorithm:") ||
             !m_algorithm.Create(this, CRect(0, 0, 0, 0), 12)) {
             return false;
         }
@@ -20,24 +15,23 @@ private:
         m_algorithm.AddString(L"Two Line Algorithm");
         m_algorithm.AddString(L"Four Line Algorithm");
         m_algorithm.SetCurrentIndex(m_settings->algorithm);
+        Bind(&DeblockingSettings::algorithm,
+             {.get = [this] { return m_algorithm.CurrentIndex(); },
+              .set = [this](int index) { m_algorithm.SetCurrentIndex(index); },
+              .enable = [this](bool on) { m_algorithm.SetEnabled(on); }});
         return AddLabel(m_offsetLabel, L"First Block Offset:") && AddLabel(m_xLabel, L"X") &&
                AddLabel(m_yLabel, L"Y") && AddLabel(m_sizeLabel, L"Block Size:") && AddLabel(m_widthLabel, L"Width") &&
                AddLabel(m_heightLabel, L"Height") &&
-               AddNumberEdit(m_offsetX, 13, m_settings->blockOffsetX, 0,
+               AddNumberEdit(m_offsetX, &DeblockingSettings::blockOffsetX, 13,
                              L"Offset from the beginning of the sample buffer to the actual horizontal start.") &&
-               AddNumberEdit(m_offsetY, 14, m_settings->blockOffsetY, 0,
+               AddNumberEdit(m_offsetY, &DeblockingSettings::blockOffsetY, 14,
                              L"Offset from the beginning of the sample buffer to the actual vertical start.") &&
-               AddNumberEdit(m_width, 15, m_settings->blockWidth, 8, L"The expected block width.") &&
-               AddNumberEdit(m_height, 16, m_settings->blockHeight, 8, L"The expected block height.") &&
-               AddSlider(m_edgeThreshold,
-                         {.id = 17,
-                          .label = L"Edge Threshold(Preserve to Smooth):",
-                          .min = 0,
-                          .max = 255,
-                          .field = &m_settings->edgeThreshold,
-                          .standard = 48,
-                          .help = L"A value of 0 preserves all the edges in the original video, while a value of 255 "
-                                  L"will smooth all the edges."});
+               AddNumberEdit(m_width, &DeblockingSettings::blockWidth, 15, L"The expected block width.") &&
+               AddNumberEdit(m_height, &DeblockingSettings::blockHeight, 16, L"The expected block height.") &&
+               AddSlider(m_edgeThreshold, &DeblockingSettings::edgeThreshold,
+                         {17, L"Edge Threshold(Preserve to Smooth):", 0, 255,
+                          L"A value of 0 preserves all the edges in the original video, while a value of 255 "
+                          L"will smooth all the edges."});
     }
 
     void LayoutControls() override {
@@ -60,7 +54,6 @@ private:
 
     void SyncControls() override {
         CEffectDlg::SyncControls();
-        m_algorithm.SetEnabled(m_enable.IsChecked());
         m_edgeThreshold.Enable(m_enable.IsChecked() && UsesThreshold());
     }
 
@@ -71,23 +64,13 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectDeblocking::put_Enable, AutomationBool(m_enable));
+        Put(&IEffectDeblocking::put_Enable, m_enable);
         Put(&IEffectDeblocking::put_Algorithm, m_algorithm.CurrentIndex());
         Put(&IEffectDeblocking::put_BlockOffsetX, ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
         Put(&IEffectDeblocking::put_BlockOffsetY, ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
         Put(&IEffectDeblocking::put_BlockWidth, ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
         Put(&IEffectDeblocking::put_BlockHeight, ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
-        Put(&IEffectDeblocking::put_EdgeThreshold, m_edgeThreshold.Value());
-    }
-
-    void SaveSettings() override {
-        CEffectDlg::SaveSettings();
-        m_settings->algorithm = m_algorithm.CurrentIndex();
-    }
-
-    void SetDefaults() override {
-        m_algorithm.SetCurrentIndex(0);
-        CEffectDlg::SetDefaults();
+        Put(&IEffectDeblocking::put_EdgeThreshold, m_edgeThreshold);
     }
 
     /// The threshold applies to the four-line algorithm alone.

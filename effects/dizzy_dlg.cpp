@@ -1,34 +1,17 @@
 // Dizzy: frames that rotate, zoom and blur.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CDizzyDlg : public CAreaDlg<IEffectDizzy, DizzySettings> {
-public:
-    CDizzyDlg() : CAreaDlg(EffectId::Dizzy) {}
-
-private:
+class CDizzyDlg : public CAreaDlg<EffectId::Dizzy> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(
-                   m_zoomLevel,
-                   {.id = 11,
-                    .label = L"Zoom Level(0-1000):",
-                    .min = 0,
-                    .max = 1000,
-                    .field = &m_settings->zoomLevel,
-                    .standard = 10,
-                    .help = L"Controls how far the frames are zoomed. Higher values result in a stronger zoom."}) &&
-               AddSlider(
-                   m_rotationSpeed,
-                   {.id = 12,
-                    .label = L"Rotation Speed(0-1000):",
-                    .min = 0,
-                    .max = 1000,
-                    .field = &m_settings->rotationSpeed,
-                    .standard = 20,
-                    .help = L"Controls how fast the frames rotate. Higher values result in a faster rotation."}) &&
+        return AddEnable() &&
+               AddSlider(m_zoomLevel, &DizzySettings::zoomLevel,
+                         {11, L"Zoom Level(%d-%d):", 0, 1000,
+                          L"Controls how far the frames are zoomed. Higher values result in a stronger zoom."}) &&
+               AddSlider(m_rotationSpeed, &DizzySettings::rotationSpeed,
+                         {12, L"Rotation Speed(%d-%d):", 0, 1000,
+                          L"Controls how fast the frames rotate. Higher values result in a faster rotation."}) &&
                AddArea();
     }
 
@@ -40,9 +23,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectDizzy::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectDizzy::put_ZoomLevel, m_zoomLevel.Value());
-        Put(&IEffectDizzy::put_RotationSpeed, m_rotationSpeed.Value());
+        Put(&IEffectDizzy::put_Enable, m_enable);
+        Put(&IEffectDizzy::put_ZoomLevel, m_zoomLevel);
+        Put(&IEffectDizzy::put_RotationSpeed, m_rotationSpeed);
         PutArea(InvalidArea::ReplaceThenConvert, AreaSwitch::BeforeEdges);
     }
 

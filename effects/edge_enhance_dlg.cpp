@@ -1,32 +1,17 @@
 // Edge Enhance: a switch, and a multiplier with a switch of its own.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CEdgeEnhanceDlg : public CEffectDlg<IEffectEdgeEnhance, EdgeEnhanceSettings> {
-public:
-    CEdgeEnhanceDlg() : CEffectDlg(EffectId::EdgeEnhance) {}
-
-private:
+class CEdgeEnhanceDlg : public CEffectDlg<EffectId::EdgeEnhance> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
+        return AddEnable() &&
                AddCheckBox(
-                   m_useMultiplier,
-                   {.id = kUseMultiplierId,
-                    .text = L"Enable Multiplier (50 - 1000)",
-                    .field = &m_settings->multiplierEnabled,
-                    .standard = 1,
-                    .help =
-                        L"Enable the multiplier, will apply a multiplication factor to the edge-enhanced samples."}) &&
-               AddSlider(m_multiplier,
-                         {.id = 13,
-                          .label = nullptr,
-                          .min = 50,
-                          .max = 1000,
-                          .field = &m_settings->multiplier,
-                          .standard = 100,
-                          .help = L"Set values of the multiplication factor."});
+                   m_useMultiplier, &EdgeEnhanceSettings::multiplierEnabled,
+                   {kUseMultiplierId, L"Enable Multiplier (50 - 1000)",
+                    L"Enable the multiplier, will apply a multiplication factor to the edge-enhanced samples."}) &&
+               AddSlider(m_multiplier, &EdgeEnhanceSettings::multiplier,
+                         {13, nullptr, 50, 1000, L"Set values of the multiplication factor."});
     }
 
     void LayoutControls() override {
@@ -48,9 +33,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectEdgeEnhance::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectEdgeEnhance::put_EnableMultiplier, AutomationBool(m_useMultiplier));
-        Put(&IEffectEdgeEnhance::put_Multiplier, m_multiplier.Value());
+        Put(&IEffectEdgeEnhance::put_Enable, m_enable);
+        Put(&IEffectEdgeEnhance::put_EnableMultiplier, m_useMultiplier);
+        Put(&IEffectEdgeEnhance::put_Multiplier, m_multiplier);
     }
 
     static constexpr UINT kUseMultiplierId = 12;

@@ -1,69 +1,9 @@
 #include "effects/effect_dialogs.h"
 
-#include "effects/effect_makers.h"
-
 std::unique_ptr<CDialog> MakeEffectDialog(EffectId id) {
-    switch (id) {
-        case EffectId::AutoContrast:
-            return MakeAutoContrastDlg();
-        case EffectId::AutoIntensity:
-            return MakeAutoIntensityDlg();
-        case EffectId::AutoLevel:
-            return MakeAutoLevelDlg();
-        case EffectId::Brightness:
-            return MakeBrightnessDlg();
-        case EffectId::Color:
-            return MakeColorDlg();
-        case EffectId::Deblocking:
-            return MakeDeblockingDlg();
-        case EffectId::EdgeEnhance:
-            return MakeEdgeEnhanceDlg();
-        case EffectId::Aging:
-            return MakeAgingDlg();
-        case EffectId::BumpMap:
-            return MakeBumpMapDlg();
-        case EffectId::Dizzy:
-            return MakeDizzyDlg();
-        case EffectId::Fire:
-            return MakeFireDlg();
-        case EffectId::GlassTile:
-            return MakeGlassTileDlg();
-        case EffectId::Hologram:
-            return MakeHologramDlg();
-        case EffectId::Lens:
-            return MakeLensDlg();
-        case EffectId::Lightning:
-            return MakeLightningDlg();
-        case EffectId::Maze:
-            return MakeMazeDlg();
-        case EffectId::MotionBlur:
-            return MakeMotionBlurDlg();
-        case EffectId::MotionEmboss:
-            return MakeMotionEmbossDlg();
-        case EffectId::MotionMosaic:
-            return MakeMotionMosaicDlg();
-        case EffectId::MotionScan:
-            return MakeMotionScanDlg();
-        case EffectId::Particles:
-            return MakeParticlesDlg();
-        case EffectId::Rain:
-            return MakeRainDlg();
-        case EffectId::Streak:
-            return MakeStreakDlg();
-        case EffectId::Wave:
-            return MakeWaveDlg();
-        case EffectId::Emboss:
-            return MakeEmbossDlg();
-        case EffectId::GammaCorrection:
-            return MakeGammaCorrectionDlg();
-        case EffectId::Mosaic:
-            return MakeMosaicDlg();
-        case EffectId::UnsharpMask:
-            return MakeUnsharpMaskDlg();
-        case EffectId::VideoRotation:
-            return MakeVideoRotationDlg();
-        case EffectId::AudioChorus:
-            return MakeAudioChorusDlg();
-    }
+#define MAKE_IF(name, number) \
+    if (id == EffectId::name) return Make##name##Dlg();
+    EFFECT_SETTINGS_EFFECTS(MAKE_IF)
+#undef MAKE_IF
     return nullptr;
 }

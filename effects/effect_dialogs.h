@@ -1,4 +1,4 @@
-// The one dispatch table: EffectId -> dialog.
+// The one dispatch table, from the effect's number to its dialog.
 #pragma once
 
 #include <memory>
@@ -7,5 +7,10 @@
 
 #include "effect_settings/effect_settings.h"
 
-/// The dialog of a known effect, with its values taken from the running call's record.
+/// Null when there is no such effect. The dialog takes its values from the running call's record.
 std::unique_ptr<CDialog> MakeEffectDialog(EffectId id);
+
+// The makers, each at the end of its dialog's source: MakeWaveDlg and so on.
+#define DECLARE_MAKER(name, number) std::unique_ptr<CDialog> Make##name##Dlg();
+EFFECT_SETTINGS_EFFECTS(DECLARE_MAKER)
+#undef DECLARE_MAKER

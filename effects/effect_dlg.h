@@ -8,22 +8,62 @@
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/effect_settings.h"
 #include "effects/effect_catalogue.h"
+#include "effects/effect_dialogs.h"
 #include "effects/record_dlg.h"
 #include "entry/session.h"
 #include "host/com_ptr.h"
 
+/// What belongs to an effect by its name.
+template <EffectId Id>
+struct EffectTypes;
+
+#define EFFECT_TYPES(name, number)                                          \
+    template <>                                                             \
+    struct EffectTypes<EffectId::name> {                                    \
+        using Filter = IEffect##name;                                       \
+        using Settings = name##Settings;                                    \
+        static constexpr const IID& kPropertyInterface = IID_IEffect##name; \
+    };
+EFFECT_SETTINGS_EFFECTS(EFFECT_TYPES)
+#undef EFFECT_TYPES
+
 /// A check box's state as filters take it.
 inline VARIANT_BOOL AutomationBool(const CSkinCheckBox& box) { return box.IsChecked() ? VARIANT_TRUE : VARIANT_FALSE; }
 
-template <typename Filter, typename Settings>
+template <EffectId Id>
 class CEffectDlg : public CRecordDlg {
 protected:
-    explicit CEffectDlg(EffectId id, const EffectDialogOptions& options = {})
-        : CRecordDlg(EffectInfoOf(id), options), m_settings(static_cast<Settings*>(g_Settings)) {}
+    using Filter = typename EffectTypes<Id>::Filter;
+    using Settings = typename EffectTypes<Id>::Settings;
+    using SettingsField = std::int32_t Settings::*;
+
+    explicit CEffectDlg(const EffectDialogOptions& options = {})
+        : CRecordDlg(EffectInfoOf(Id), options), m_settings(static_cast<Settings*>(g_Settings)) {}
+
+    // What a dialog creates its controls with; each stands for a field.
+
+    bool AddEnable() { return CRecordDlg::AddEnable(Of(&Settings::enabled)); }
+    bool AddSlider(CValueSlider& slider, SettingsField field, const SliderSetup& setup) {
+        return CRecordDlg::AddSlider(slider, Of(field), setup);
+    }
+    bool AddCheckBox(CSkinCheckBox& box, SettingsField field, const CheckBoxSetup& setup) {
+        return CRecordDlg::AddCheckBox(box, Of(field), setup);
+    }
+    bool AddRadioGroup(CRadioGroup& group, SettingsField field, const Choices& choices) {
+        return CRecordDlg::AddRadioGroup(group, Of(field), choices, m_settings->*field);
+    }
+    /// A choice between 0 and 1; any other number counts as 1.
+    bool AddRadioPair(CRadioGroup& group, SettingsField field, const Choices& choices) {
+        return CRecordDlg::AddRadioGroup(group, Of(field), choices, m_settings->*field != 0);
+    }
+    bool AddNumberEdit(CNumberEdit& edit, SettingsField field, UINT id, LPCWSTR help) {
+        return CRecordDlg::AddNumberEdit(edit, Of(field), id, help);
+    }
+    void Bind(SettingsField field, const Binding& binding) { CRecordDlg::Bind(Of(field), binding); }
 
     void ConnectFilter(IUnknown& processor) override {
         void* filter = nullptr;
-        if (SUCCEEDED(processor.QueryInterface(Info().propertyInterface, &filter))) {
+        if (SUCCEEDED(processor.QueryInterface(EffectTypes<Id>::kPropertyInterface, &filter))) {
             *m_filter.ReleaseAndGetAddressOf() = static_cast<Filter*>(filter);
         }
     }
@@ -41,8 +81,22 @@ protected:
         }
     }
 
+    template <typename Interface>
+    void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(VARIANT_BOOL), const CSkinCheckBox& box) {
+        Put(setter, AutomationBool(box));
+    }
+    template <typename Interface>
+    void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(LONG), const CValueSlider& slider) {
+        Put(setter, slider.Value());
+    }
+
+    /// What "Set as default" sets.
+    static constexpr Settings kDefaults{};
+
     Settings* const m_settings;
 
 private:
+    Field Of(SettingsField field) const { return {m_settings->*field, kDefaults.*field}; }
+
     ComPtr<Filter> m_filter;  // Null until attached, without a host, and once the window is gone.
 };

@@ -1,20 +1,14 @@
 // Emboss: whole frames are embossed or become a bump map.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 #include "effects/embossing_dlg.h"
 
 namespace {
 
-using CBaseDlg = CEmbossingDlg<CAreaDlg<IEffectEmboss, EmbossSettings>>;
+using CBaseDlg = CEmbossingDlg<CAreaDlg<EffectId::Emboss>>;
 
 class CEmbossDlg : public CBaseDlg {
-public:
-    CEmbossDlg() : CBaseDlg(EffectId::Emboss) {}
-
-private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddLightAndDepth(11, 50) && AddMode(14, m_settings->emboss, 1) &&
-               AddArea();
+        return AddEnable() && AddLightAndDepth(11) && AddMode(14, &EmbossSettings::emboss) && AddArea();
     }
 
     void LayoutControls() override {
@@ -31,13 +25,13 @@ private:
             {.lightAngle = m_lightAngle.Value(),
              .elevation = m_elevation.Value(),
              .depth = m_depth.Value(),
-             .emboss = m_mode.Value().value_or(1),
+             .emboss = m_mode.Value().value_or(kDefaults.emboss),
              .enabled = m_enable.IsChecked(),
-             .defaultLightAngle = 180,
-             .defaultElevation = 90,
-             .defaultDepth = 50,
-             .defaultEmboss = 1,
-             .defaultEnabled = 1});
+             .defaultLightAngle = kDefaults.lightAngle,
+             .defaultElevation = kDefaults.elevation,
+             .defaultDepth = kDefaults.depth,
+             .defaultEmboss = kDefaults.emboss,
+             .defaultEnabled = kDefaults.enabled});
         Put(&IEffectEmboss::SetAreaParams, AreaStructure());
     }
 };

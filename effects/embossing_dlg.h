@@ -9,45 +9,27 @@ class CEmbossingDlg : public Dialog {
 protected:
     using Dialog::Dialog;
 
+    using SettingsField = typename Dialog::SettingsField;
+    using Settings = typename Dialog::Settings;
+
     /// Three sliders with ids that follow each other.
-    bool AddLightAndDepth(UINT firstId, int standardDepth) {
-        auto& settings = *this->m_settings;
-        return this->AddSlider(
-                   m_lightAngle,
-                   {.id = firstId,
-                    .label = L"Light Angle(0-360):",
-                    .min = 0,
-                    .max = 360,
-                    .field = &settings.lightAngle,
-                    .standard = 180,
-                    .help = L"The direction of the light, in degrees."}) &&
+    bool AddLightAndDepth(UINT firstId) {
+        return this->AddSlider(m_lightAngle, &Settings::lightAngle,
+                               {firstId, L"Light Angle(%d-%d):", 0, 360, L"The direction of the light, in degrees."}) &&
                this->AddSlider(
-                   m_elevation,
-                   {.id = firstId + 1,
-                    .label = L"Elevation(0-180):",
-                    .min = 0,
-                    .max = 180,
-                    .field = &settings.elevation,
-                    .standard = 90,
-                    .help = L"Elevation angle. 0 will cause outer embossing, and 180 will cause inner embossing."}) &&
+                   m_elevation, &Settings::elevation,
+                   {firstId + 1, L"Elevation(%d-%d):", 0, 180,
+                    L"Elevation angle. 0 will cause outer embossing, and 180 will cause inner embossing."}) &&
                this->AddSlider(
-                   m_depth, {.id = firstId + 2,
-                             .label = L"Depth(1-100):",
-                             .min = 1,
-                             .max = 100,
-                             .field = &settings.depth,
-                             .standard = standardDepth,
-                             .help = L"Depth of the emboss effect."});
+                   m_depth, &Settings::depth, {firstId + 2, L"Depth(%d-%d):", 1, 100, L"Depth of the emboss effect."});
     }
 
-    /// The field holds `emboss` or the other of 0 and 1; any other number counts as 1. "Emboss" is the default.
-    bool AddMode(UINT firstId, std::int32_t& field, int emboss) {
-        return this->AddRadioGroup(
-            m_mode, {.field = &field,
-                     .value = field != 0,
-                     .standard = emboss,
-                     .choices = {{firstId, emboss, L"Emboss", L"If selected, emboss without a bump map."},
-                                 {firstId + 1, 1 - emboss, L"Bumpmap", L"If selected, emboss with a bump map."}}});
+    /// "Emboss" stands for the field's default, 0 or 1, and "Bumpmap" for the other of the two.
+    bool AddMode(UINT firstId, SettingsField field) {
+        const std::int32_t emboss = this->kDefaults.*field;
+        return this->AddRadioPair(m_mode, field,
+                                  {{firstId, emboss, L"Emboss", L"If selected, emboss without a bump map."},
+                                   {firstId + 1, 1 - emboss, L"Bumpmap", L"If selected, emboss with a bump map."}});
     }
 
     CValueSlider m_lightAngle;

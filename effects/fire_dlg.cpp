@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <array>
 
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
@@ -29,62 +28,43 @@ constexpr std::array<Direction, 9> kDirections = {{
     {kFlameSouthEast, 29, L"SE", 130, 511, L"Flames to the South-East."},
 }};
 
-class CFireDlg : public CMotionDlg<IEffectFire, FireSettings> {
-public:
-    CFireDlg() : CMotionDlg(EffectId::Fire) {}
-
-private:
+class CFireDlg : public CMotionDlg<EffectId::Fire> {
     bool CreateControls() override {
-        SetDirections(m_settings->flameDirection);
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(
-                   m_gradientLevel,
-                   {.id = 15,
-                    .label = L"Gradient Level(0 - 100):",
-                    .min = 0,
-                    .max = 100,
-                    .field = &m_settings->gradientLevel,
-                    .standard = 50,
-                    .help = L"A percentage value that controls the colors graduation. For example 0 will result in "
-                            L"a very small number of colors used to draw the flame. Higher values result in more "
-                            L"colors used to draw the flames gradient color."}) &&
-               AddSlider(
-                   m_colorsOffset,
-                   {.id = 16,
-                    .label = L"Colors Offset(0 - 1000):",
-                    .min = 0,
-                    .max = 1000,
-                    .field = &m_settings->colorsOffset,
-                    .standard = 660,
-                    .help = L"Changes the colors used in generating the fire flames to another set of colors."}) &&
-               AddSlider(m_decay, {.id = 18,
-                                   .label = L"Decay(1 - 100):",
-                                   .min = 1,
-                                   .max = 100,
-                                   .field = &m_settings->decay,
-                                   .standard = 15,
-                                   .help = L"Controls the spread and height of the flames. A lower decay value will "
-                                           L"result in a greater spread of fire and higher flames."}) &&
+        return AddEnable() &&
+               AddSlider(m_gradientLevel, &FireSettings::gradientLevel,
+                         {15, L"Gradient Level(%d - %d):", 0, 100,
+                          L"A percentage value that controls the colors graduation. For example 0 will result in "
+                          L"a very small number of colors used to draw the flame. Higher values result in more "
+                          L"colors used to draw the flames gradient color."}) &&
+               AddSlider(m_colorsOffset, &FireSettings::colorsOffset,
+                         {16, L"Colors Offset(%d - %d):", 0, 1000,
+                          L"Changes the colors used in generating the fire flames to another set of colors."}) &&
+               AddSlider(m_decay, &FireSettings::decay,
+                         {18, L"Decay(%d - %d):", 1, 100,
+                          L"Controls the spread and height of the flames. A lower decay value will "
+                          L"result in a greater spread of fire and higher flames."}) &&
                AddThreshold(
                    L"Value used to control an object's detection level. A lower threshold provides stronger object "
                    L"detection. ") &&
                AddNoReference() && AddFirstFrame() &&
-               AddCheckBox(m_showBackground,
-                           {.id = 17,
-                            .text = L"Show background",
-                            .field = &m_settings->showBackground,
-                            .standard = 0,
-                            .help = L"If checked, the background of the moving object will be "
-                                    L"displayed. Otherwise, a black background is displayed."}) &&
-               AddCheckBox(m_entireObject, {.id = 19,
-                                            .text = L"Fire",
-                                            .field = &m_settings->entireObject,
-                                            .standard = 1,
-                                            .help = L"If checked, the entire object will be covered in flames."}) &&
+               AddCheckBox(m_showBackground, &FireSettings::showBackground,
+                           {17, L"Show background",
+                            L"If checked, the background of the moving object will be "
+                            L"displayed. Otherwise, a black background is displayed."}) &&
+               AddCheckBox(m_entireObject, &FireSettings::entireObject,
+                           {19, L"Fire", L"If checked, the entire object will be covered in flames."}) &&
                AddLabel(m_directionLabel, L"Flame Direction:") && AddDirections();
     }
 
     bool AddDirections() {
+        SetDirections(m_settings->flameDirection);
+        Bind(&FireSettings::flameDirection,
+             {.get = [this] { return Directions(); },
+              .set = [this](int bits) { SetDirections(bits); },
+              .enable =
+                  [this](bool on) {
+                      for (CSkinCheckBox& direction : m_directions) direction.SetEnabled(on);
+                  }});
         for (std::size_t index = 0; index < kDirections.size(); ++index) {
             const Direction& direction = kDirections[index];
             Hear(direction.id);
@@ -110,11 +90,6 @@ private:
         m_helpRect = HelpRectBelow(541);
     }
 
-    void SyncControls() override {
-        CMotionDlg::SyncControls();
-        for (CSkinCheckBox& direction : m_directions) direction.SetEnabled(m_enable.IsChecked());
-    }
-
     void OnClicked(UINT id) override {
         const auto clicked = std::find_if(
             kDirections.begin(), kDirections.end(), [id](const Direction& direction) { return direction.id == id; });
@@ -124,25 +99,15 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectFire::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectFire::put_GradientLevel, m_gradientLevel.Value());
-        Put(&IEffectFire::put_ColorsOffset, m_colorsOffset.Value());
-        Put(&IEffectFire::put_Decay, m_decay.Value());
-        Put(&IEffectFire::put_Threshold, m_threshold.Value());
+        Put(&IEffectFire::put_Enable, m_enable);
+        Put(&IEffectFire::put_GradientLevel, m_gradientLevel);
+        Put(&IEffectFire::put_ColorsOffset, m_colorsOffset);
+        Put(&IEffectFire::put_Decay, m_decay);
+        Put(&IEffectFire::put_Threshold, m_threshold);
         Put(&IEffectFire::put_FlameDirection, Directions());
-        Put(&IEffectFire::put_EntireObject, AutomationBool(m_entireObject));
-        Put(&IEffectFire::put_ShowBackground, AutomationBool(m_showBackground));
+        Put(&IEffectFire::put_EntireObject, m_entireObject);
+        Put(&IEffectFire::put_ShowBackground, m_showBackground);
         PutReference();
-    }
-
-    void SaveSettings() override {
-        CMotionDlg::SaveSettings();
-        m_settings->flameDirection = Directions();
-    }
-
-    void SetDefaults() override {
-        CMotionDlg::SetDefaults();
-        SetDirections(kFlameNorth);
     }
 
     int Directions() const {

@@ -1,23 +1,12 @@
 // Gamma Correction: a switch and the gamma factor.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CGammaCorrectionDlg : public CEffectDlg<IEffectGammaCorrection, GammaCorrectionSettings> {
-public:
-    CGammaCorrectionDlg() : CEffectDlg(EffectId::GammaCorrection) {}
-
-private:
+class CGammaCorrectionDlg : public CEffectDlg<EffectId::GammaCorrection> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_gamma, {.id = 13,
-                                   .label = L"Gamma factor (1 - 500):",
-                                   .min = 1,
-                                   .max = 500,
-                                   .field = &m_settings->value,
-                                   .standard = 100,
-                                   .help = L"Set Gamma correction value."});
+        return AddEnable() && AddSlider(m_gamma, &GammaCorrectionSettings::value,
+                                        {13, L"Gamma factor (%d - %d):", 1, 500, L"Set Gamma correction value."});
     }
 
     void LayoutControls() override {

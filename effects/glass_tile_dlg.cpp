@@ -1,41 +1,19 @@
 // Glass Tile: the picture behind stained glass.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CGlassTileDlg : public CAreaDlg<IEffectGlassTile, GlassTileSettings> {
-public:
-    CGlassTileDlg() : CAreaDlg(EffectId::GlassTile) {}
-
-private:
+class CGlassTileDlg : public CAreaDlg<EffectId::GlassTile> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_tileWidth,
-                         {.id = 11,
-                          .label = L"Tile Width(2-50):",
-                          .min = 2,
-                          .max = 50,
-                          .field = &m_settings->tileWidth,
-                          .standard = 20,
-                          .help = L"Controls the width of the glass tiles, in pixels."}) &&
-               AddSlider(m_tileHeight,
-                         {.id = 12,
-                          .label = L"Tile Height(2-50):",
-                          .min = 2,
-                          .max = 50,
-                          .field = &m_settings->tileHeight,
-                          .standard = 20,
-                          .help = L"Controls the height of the glass tiles, in pixels."}) &&
-               AddSlider(m_refraction,
-                         {.id = 13,
-                          .label = L"Refraction(2-10):",
-                          .min = 2,
-                          .max = 10,
-                          .field = &m_settings->refraction,
-                          .standard = 2,
-                          .help = L"Controls how strongly the glass bends the light. Higher values result in more "
-                                  L"distortion."}) &&
+        return AddEnable() &&
+               AddSlider(m_tileWidth, &GlassTileSettings::tileWidth,
+                         {11, L"Tile Width(%d-%d):", 2, 50, L"Controls the width of the glass tiles, in pixels."}) &&
+               AddSlider(m_tileHeight, &GlassTileSettings::tileHeight,
+                         {12, L"Tile Height(%d-%d):", 2, 50, L"Controls the height of the glass tiles, in pixels."}) &&
+               AddSlider(m_refraction, &GlassTileSettings::refraction,
+                         {13, L"Refraction(%d-%d):", 2, 10,
+                          L"Controls how strongly the glass bends the light. Higher values result in more "
+                          L"distortion."}) &&
                AddArea();
     }
 
@@ -48,10 +26,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectGlassTile::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectGlassTile::put_TileWidth, m_tileWidth.Value());
-        Put(&IEffectGlassTile::put_TileHeight, m_tileHeight.Value());
-        Put(&IEffectGlassTile::put_Refraction, m_refraction.Value());
+        Put(&IEffectGlassTile::put_Enable, m_enable);
+        Put(&IEffectGlassTile::put_TileWidth, m_tileWidth);
+        Put(&IEffectGlassTile::put_TileHeight, m_tileHeight);
+        Put(&IEffectGlassTile::put_Refraction, m_refraction);
         // With an invalid area this filter gets no switch at all, on purpose.
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeValidEdgesOnly);
     }

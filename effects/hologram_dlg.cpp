@@ -1,31 +1,17 @@
 // Hologram: a coloured, noisy shadow of what moves.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CHologramDlg : public CMotionDlg<IEffectHologram, HologramSettings> {
-public:
-    CHologramDlg() : CMotionDlg(EffectId::Hologram) {}
-
-private:
+class CHologramDlg : public CMotionDlg<EffectId::Hologram> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddHue(m_hue, 15) &&
-               AddSlider(m_noise, {.id = 16,
-                                   .label = L"Noise(1 - 100):",
-                                   .min = 1,
-                                   .max = 100,
-                                   .field = &m_settings->noise,
-                                   .standard = 10,
-                                   .help = L"Value used to set the noise density."}) &&
+        return AddEnable() && AddHue(m_hue, 15) &&
+               AddSlider(m_noise, &HologramSettings::noise,
+                         {16, L"Noise(%d - %d):", 1, 100, L"Value used to set the noise density."}) &&
                AddThreshold() &&
-               AddCheckBox(
-                   m_lineNoise,
-                   {.id = 17,
-                    .text = L"Add line noise",
-                    .field = &m_settings->lineNoise,
-                    .standard = 1,
-                    .help = L"If checked, the noise line appears as it is moving from the bottom to the top."}) &&
+               AddCheckBox(m_lineNoise, &HologramSettings::lineNoise,
+                           {17, L"Add line noise",
+                            L"If checked, the noise line appears as it is moving from the bottom to the top."}) &&
                AddNoReference() &&
                AddFirstFrame(L"If checked, the  first frame in the video will be set as the reference frame.");
     }
@@ -42,11 +28,11 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectHologram::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectHologram::put_Threshold, m_threshold.Value());
-        Put(&IEffectHologram::put_Hue, m_hue.Value());
-        Put(&IEffectHologram::put_Noise, m_noise.Value());
-        Put(&IEffectHologram::put_LineNoise, AutomationBool(m_lineNoise));
+        Put(&IEffectHologram::put_Enable, m_enable);
+        Put(&IEffectHologram::put_Threshold, m_threshold);
+        Put(&IEffectHologram::put_Hue, m_hue);
+        Put(&IEffectHologram::put_Noise, m_noise);
+        Put(&IEffectHologram::put_LineNoise, m_lineNoise);
         PutReference();
     }
 

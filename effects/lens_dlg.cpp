@@ -1,32 +1,18 @@
 // Lens: the picture through a fish eye.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CLensDlg : public CAreaDlg<IEffectLens, LensSettings> {
-public:
-    CLensDlg() : CAreaDlg(EffectId::Lens) {}
-
-private:
+class CLensDlg : public CAreaDlg<EffectId::Lens> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
+        return AddEnable() &&
                AddSlider(
-                   m_refraction,
-                   {.id = 11,
-                    .label = L"Refraction(10 - 160):",
-                    .min = 10,
-                    .max = 160,
-                    .field = &m_settings->refraction,
-                    .standard = 20,
-                    .help =
-                        L"Controls how strongly the lens bends the light. Higher values result in more distortion."}) &&
-               AddCheckBox(m_keepSurroundings,
-                           {.id = 14,
-                            .text = L"Keep original surroundings",
-                            .field = &m_settings->keepSurroundings,
-                            .standard = 1,
-                            .help = L"If checked, the video around the lens is kept as it is."}) &&
+                   m_refraction, &LensSettings::refraction,
+                   {11, L"Refraction(%d - %d):", 10, 160,
+                    L"Controls how strongly the lens bends the light. Higher values result in more distortion."}) &&
+               AddCheckBox(
+                   m_keepSurroundings, &LensSettings::keepSurroundings,
+                   {14, L"Keep original surroundings", L"If checked, the video around the lens is kept as it is."}) &&
                AddArea();
     }
 
@@ -38,9 +24,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectLens::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectLens::put_Refraction, m_refraction.Value());
-        Put(&IEffectLens::put_KeepSurroundings, AutomationBool(m_keepSurroundings));
+        Put(&IEffectLens::put_Enable, m_enable);
+        Put(&IEffectLens::put_Refraction, m_refraction);
+        Put(&IEffectLens::put_KeepSurroundings, m_keepSurroundings);
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
     }
 

@@ -1,17 +1,10 @@
 // Lightning: sparks around what moves.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CLightningDlg : public CMotionDlg<IEffectLightning, LightningSettings> {
-public:
-    CLightningDlg() : CMotionDlg(EffectId::Lightning) {}
-
-private:
-    bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddThreshold() && AddNoReference() && AddFirstFrame();
-    }
+class CLightningDlg : public CMotionDlg<EffectId::Lightning> {
+    bool CreateControls() override { return AddEnable() && AddThreshold() && AddNoReference() && AddFirstFrame(); }
 
     void LayoutControls() override {
         CMotionDlg::LayoutControls();
@@ -22,8 +15,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectLightning::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectLightning::put_Threshold, m_threshold.Value());
+        Put(&IEffectLightning::put_Enable, m_enable);
+        Put(&IEffectLightning::put_Threshold, m_threshold);
         PutReference();
     }
 };

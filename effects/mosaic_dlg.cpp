@@ -1,24 +1,13 @@
 // Mosaic: the picture in squares of one colour each.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CMosaicDlg : public CAreaDlg<IEffectMosaic, MosaicSettings> {
-public:
-    CMosaicDlg() : CAreaDlg(EffectId::Mosaic) {}
-
-private:
+class CMosaicDlg : public CAreaDlg<EffectId::Mosaic> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_mosaicSize,
-                         {.id = 11,
-                          .label = L"Mosaic Size(1-64):",
-                          .min = 1,
-                          .max = 64,
-                          .field = &m_settings->mosaicSize,
-                          .standard = 1,
-                          .help = L"Controls the size of the mosaic squares, in pixels."}) &&
+        return AddEnable() &&
+               AddSlider(m_mosaicSize, &MosaicSettings::mosaicSize,
+                         {11, L"Mosaic Size(%d-%d):", 1, 64, L"Controls the size of the mosaic squares, in pixels."}) &&
                AddArea();
     }
 

@@ -1,25 +1,19 @@
 // Motion Blur: what moves leaves a coloured blur.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CMotionBlurDlg : public CMotionDlg<IEffectMotionBlur, MotionBlurSettings> {
+class CMotionBlurDlg : public CMotionDlg<EffectId::MotionBlur> {
 public:
-    CMotionBlurDlg() : CMotionDlg(EffectId::MotionBlur, FirstSync::AfterAttach) {}
+    CMotionBlurDlg() : CMotionDlg(FirstSync::AfterAttach) {}
 
 private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddHue(m_hue, 13) && AddThreshold() &&
-               AddSlider(m_interval,
-                         {.id = 15,
-                          .label = L"Interval Frames(1 - 200):",
-                          .min = 1,
-                          .max = 200,
-                          .field = &m_settings->intervalFrames,
-                          .standard = 2,
-                          .help = L"Number of frames to use when creating the effect. The higher the "
-                                  L"number, the greater the blur since more frames are being used."});
+        return AddEnable() && AddHue(m_hue, 13) && AddThreshold() &&
+               AddSlider(m_interval, &MotionBlurSettings::intervalFrames,
+                         {15, L"Interval Frames(%d - %d):", 1, 200,
+                          L"Number of frames to use when creating the effect. The higher the "
+                          L"number, the greater the blur since more frames are being used."});
     }
 
     void LayoutControls() override {
@@ -31,10 +25,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectMotionBlur::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectMotionBlur::put_Threshold, m_threshold.Value());
-        Put(&IEffectMotionBlur::put_Hue, m_hue.Value());
-        Put(&IEffectMotionBlur::put_IntervalFrames, m_interval.Value());
+        Put(&IEffectMotionBlur::put_Enable, m_enable);
+        Put(&IEffectMotionBlur::put_Threshold, m_threshold);
+        Put(&IEffectMotionBlur::put_Hue, m_hue);
+        Put(&IEffectMotionBlur::put_IntervalFrames, m_interval);
     }
 
     CValueSlider m_hue;

@@ -1,20 +1,15 @@
 // Motion Emboss: what moves is embossed, with or without a bump map.
-#include "effects/effect_makers.h"
 #include "effects/embossing_dlg.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-using CBaseDlg = CEmbossingDlg<CMotionDlg<IEffectMotionEmboss, MotionEmbossSettings>>;
+using CBaseDlg = CEmbossingDlg<CMotionDlg<EffectId::MotionEmboss>>;
 
 class CMotionEmbossDlg : public CBaseDlg {
-public:
-    CMotionEmbossDlg() : CBaseDlg(EffectId::MotionEmboss) {}
-
-private:
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) && AddThreshold() && AddNoReference() && AddFirstFrame() &&
-               AddLightAndDepth(15, 10) && AddMode(18, m_settings->bumpMap, 0);
+        return AddEnable() && AddThreshold() && AddNoReference() && AddFirstFrame() && AddLightAndDepth(15) &&
+               AddMode(18, &MotionEmbossSettings::bumpMap);
     }
 
     void LayoutControls() override {
@@ -30,11 +25,11 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectMotionEmboss::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectMotionEmboss::put_LightAngle, m_lightAngle.Value());
-        Put(&IEffectMotionEmboss::put_Elevation, m_elevation.Value());
-        Put(&IEffectMotionEmboss::put_Depth, m_depth.Value());
-        Put(&IEffectMotionEmboss::put_Threshold, m_threshold.Value());
+        Put(&IEffectMotionEmboss::put_Enable, m_enable);
+        Put(&IEffectMotionEmboss::put_LightAngle, m_lightAngle);
+        Put(&IEffectMotionEmboss::put_Elevation, m_elevation);
+        Put(&IEffectMotionEmboss::put_Depth, m_depth);
+        Put(&IEffectMotionEmboss::put_Threshold, m_threshold);
         Put(&IEffectMotionEmboss::put_BumpMap, m_mode.Value() == 1 ? VARIANT_TRUE : VARIANT_FALSE);
         PutReference();
     }

@@ -1,24 +1,13 @@
 // Motion Mosaic: a mosaic of what moves.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CMotionMosaicDlg : public CMotionDlg<IEffectMotionMosaic, MotionMosaicSettings> {
-public:
-    CMotionMosaicDlg() : CMotionDlg(EffectId::MotionMosaic) {}
-
-private:
+class CMotionMosaicDlg : public CMotionDlg<EffectId::MotionMosaic> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_squareSize,
-                         {.id = 15,
-                          .label = L"Square Size(1 - 64):",
-                          .min = 1,
-                          .max = 64,
-                          .field = &m_settings->squareSize,
-                          .standard = 8,
-                          .help = L"Size of the mosaic square in pixels."}) &&
+        return AddEnable() &&
+               AddSlider(m_squareSize, &MotionMosaicSettings::squareSize,
+                         {15, L"Square Size(%d - %d):", 1, 64, L"Size of the mosaic square in pixels."}) &&
                AddThreshold() && AddNoReference() && AddFirstFrame();
     }
 
@@ -32,9 +21,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectMotionMosaic::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectMotionMosaic::put_Threshold, m_threshold.Value());
-        Put(&IEffectMotionMosaic::put_SquareSize, m_squareSize.Value());
+        Put(&IEffectMotionMosaic::put_Enable, m_enable);
+        Put(&IEffectMotionMosaic::put_Threshold, m_threshold);
+        Put(&IEffectMotionMosaic::put_SquareSize, m_squareSize);
         PutReference();
     }
 

@@ -1,24 +1,12 @@
 // Particles: a switch and the distortion.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CParticlesDlg : public CEffectDlg<IEffectParticles, ParticlesSettings> {
-public:
-    CParticlesDlg() : CEffectDlg(EffectId::Particles) {}
-
-private:
+class CParticlesDlg : public CEffectDlg<EffectId::Particles> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_distortion,
-                         {.id = 13,
-                          .label = L"Distortion (1 - 6):",
-                          .min = 1,
-                          .max = 6,
-                          .field = &m_settings->value,
-                          .standard = 4,
-                          .help = L"Controls the distortion level."});
+        return AddEnable() && AddSlider(m_distortion, &ParticlesSettings::value,
+                                        {13, L"Distortion (%d - %d):", 1, 6, L"Controls the distortion level."});
     }
 
     void LayoutControls() override {
@@ -28,8 +16,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectParticles::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectParticles::put_Distortion, m_distortion.Value());
+        Put(&IEffectParticles::put_Enable, m_enable);
+        Put(&IEffectParticles::put_Distortion, m_distortion);
     }
 
     CValueSlider m_distortion;

@@ -1,38 +1,19 @@
 // Rain: drops that fall on the picture.
 #include "effects/area_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CRainDlg : public CAreaDlg<IEffectRain, RainSettings> {
-public:
-    CRainDlg() : CAreaDlg(EffectId::Rain) {}
-
-private:
+class CRainDlg : public CAreaDlg<EffectId::Rain> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_waveSpeed,
-                         {.id = 11,
-                          .label = L"Wave Speed(1 - 10):",
-                          .min = 1,
-                          .max = 10,
-                          .field = &m_settings->waveSpeed,
-                          .standard = 2,
-                          .help = L"Controls how fast the waves of the rain drops spread."}) &&
-               AddSlider(m_density,
-                         {.id = 12,
-                          .label = L"Density(1 - 100):",
-                          .min = 1,
-                          .max = 100,
-                          .field = &m_settings->density,
-                          .standard = 8,
-                          .help = L"Controls the density of the rain drops. Higher values result in more drops."}) &&
-               AddCheckBox(m_customRainDrops,
-                           {.id = 14,
-                            .text = L"Custom Rain Drops",
-                            .field = &m_settings->customRainDrops,
-                            .standard = 0,
-                            .help = L"If checked, custom rain drops are added to the video."}) &&
+        return AddEnable() &&
+               AddSlider(
+                   m_waveSpeed, &RainSettings::waveSpeed,
+                   {11, L"Wave Speed(%d - %d):", 1, 10, L"Controls how fast the waves of the rain drops spread."}) &&
+               AddSlider(m_density, &RainSettings::density,
+                         {12, L"Density(%d - %d):", 1, 100,
+                          L"Controls the density of the rain drops. Higher values result in more drops."}) &&
+               AddCheckBox(m_customRainDrops, &RainSettings::customRainDrops,
+                           {14, L"Custom Rain Drops", L"If checked, custom rain drops are added to the video."}) &&
                AddArea();
     }
 
@@ -45,10 +26,10 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectRain::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectRain::put_CustomRainDrops, AutomationBool(m_customRainDrops));
-        Put(&IEffectRain::put_WaveSpeed, m_waveSpeed.Value());
-        Put(&IEffectRain::put_Density, m_density.Value());
+        Put(&IEffectRain::put_Enable, m_enable);
+        Put(&IEffectRain::put_CustomRainDrops, m_customRainDrops);
+        Put(&IEffectRain::put_WaveSpeed, m_waveSpeed);
+        Put(&IEffectRain::put_Density, m_density);
         PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
     }
 

@@ -1,68 +1,66 @@
 #include "effects/record_dlg.h"
 
-bool CRecordDlg::AddEnable(std::int32_t& field) {
-    m_bindings.push_back({&field,
-                          1,
-                          [this] { return m_enable.IsChecked() ? 1 : 0; },
-                          [this](int value) { m_enable.SetChecked(value != 0); },
-                          {}});
-    return CreateEnable(field);
+void CRecordDlg::Bind(const Field& field, const Binding& binding) { m_fields.push_back({field, binding}); }
+
+bool CRecordDlg::AddEnable(const Field& field) {
+    Bind(field, {.get = [this] { return m_enable.IsChecked() ? 1 : 0; },
+                 .set = [this](int value) { m_enable.SetChecked(value != 0); }});
+    return CreateEnable(field.value);
 }
 
-bool CRecordDlg::AddSlider(CValueSlider& slider, const SliderSetup& setup) {
-    m_bindings.push_back(
-        {setup.field, setup.standard, [&slider] { return slider.Value(); },
-         [&slider](int value) { slider.SetValue(value); }, [&slider](bool enable) { slider.Enable(enable); }});
+bool CRecordDlg::AddSlider(CValueSlider& slider, const Field& field, const SliderSetup& setup) {
+    Bind(field, {.get = [&slider] { return slider.Value(); },
+                 .set = [&slider](int value) { slider.SetValue(value); },
+                 .enable = [&slider](bool enable) { slider.Enable(enable); }});
+    CString label;
+    if (setup.label) label.Format(setup.label, setup.min, setup.max);
     return slider.Create(
         *this, {.id = setup.id,
-                .label = setup.label,
+                .label = setup.label ? static_cast<LPCWSTR>(label) : nullptr,
                 .min = setup.min,
                 .max = setup.max,
-                .offset = setup.offset,
-                .value = *setup.field,
+                .value = field.value,
                 .help = setup.help,
                 .number = setup.number});
 }
 
-bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup) {
-    m_bindings.push_back(
-        {setup.field, setup.standard, [&box] { return box.IsChecked() ? 1 : 0; },
-         [&box](int value) { box.SetChecked(value != 0); }, [&box](bool enable) { box.SetEnabled(enable); }});
-    box.SetChecked(*setup.field != 0);
+bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const Field& field, const CheckBoxSetup& setup) {
+    Bind(field, {.get = [&box] { return box.IsChecked() ? 1 : 0; },
+                 .set = [&box](int value) { box.SetChecked(value != 0); },
+                 .enable = [&box](bool enable) { box.SetEnabled(enable); }});
+    box.SetChecked(field.value != 0);
     Hear(setup.id);
     return AddItem(box, setup.text, setup.id, setup.help);
 }
 
-bool CRecordDlg::AddRadioGroup(CRadioGroup& group, const RadioSetup& setup) {
-    m_bindings.push_back(
-        {setup.field, setup.standard, [&group, field = setup.field] { return group.Value().value_or(*field); },
-         [&group](int value) { group.SetValue(value); }, [&group](bool enable) { group.SetEnabled(enable); }});
-    for (const CRadioGroup::Choice& choice : setup.choices) Hear(choice.id);
-    return group.Create(*this, setup.choices, setup.value);
+bool CRecordDlg::AddRadioGroup(CRadioGroup& group, const Field& field, const Choices& choices, int shown) {
+    Bind(field, {.get = [&group, &value = field.value] { return group.Value().value_or(value); },
+                 .set = [&group](int value) { group.SetValue(value); },
+                 .enable = [&group](bool enable) { group.SetEnabled(enable); }});
+    for (const CRadioGroup::Choice& choice : choices) Hear(choice.id);
+    return group.Create(*this, choices, shown);
 }
 
-bool CRecordDlg::AddNumberEdit(CNumberEdit& edit, UINT id, std::int32_t& field, int standard, LPCWSTR help) {
-    m_bindings.push_back(
-        {&field, standard, [&edit] { return edit.Value(); }, [&edit](int value) { edit.SetValue(value); },
-         [&edit](bool enable) { edit.SetEnabled(enable); }});
+bool CRecordDlg::AddNumberEdit(CNumberEdit& edit, const Field& field, UINT id, LPCWSTR help) {
+    Bind(field, {.get = [&edit] { return edit.Value(); },
+                 .set = [&edit](int value) { edit.SetValue(value); },
+                 .enable = [&edit](bool enable) { edit.SetEnabled(enable); }});
     Hear(id, EN_CHANGE);
-    return edit.Create(*this, id, field, help);
+    return edit.Create(*this, id, field.value, help);
 }
 
 void CRecordDlg::SyncControls() {
-    for (const Binding& binding : m_bindings) {
-        if (binding.enable) binding.enable(m_enable.IsChecked());
+    for (const auto& [field, control] : m_fields) {
+        if (control.enable) control.enable(m_enable.IsChecked());
     }
 }
 
 void CRecordDlg::SaveSettings() {
-    for (const Binding& binding : m_bindings) *binding.field = binding.get();
+    for (const auto& [field, control] : m_fields) field.value = control.get();
 }
 
 void CRecordDlg::SetDefaults() {
-    for (const Binding& binding : m_bindings) {
-        if (binding.standard) binding.set(*binding.standard);
-    }
+    for (const auto& [field, control] : m_fields) control.set(field.standard);
 }
 
 void CRecordDlg::ResetToDefaults() {

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include "dialogs/base/effect_settings_dlg.h"
@@ -14,45 +13,45 @@
 #include "skin/skin_check_box.h"
 #include "skin/skin_static.h"
 
-/// The default of a control that "Set as default" leaves as it is.
-inline constexpr std::nullopt_t kNoDefault = std::nullopt;
-
 class CRecordDlg : public CEffectSettingsDlg {
 protected:
+    /// A field of the caller's record.
+    struct Field {
+        std::int32_t& value;
+        std::int32_t standard;  ///< What "Set as default" sets.
+    };
     struct SliderSetup {
         UINT id;
-        LPCWSTR label = nullptr;  ///< Null where something else stands in the label's place.
-        int min;                  ///< Both ends are values; the slider holds value + offset.
+        LPCWSTR label;  ///< With "%d" for the ends of the range; null where something else stands in its place.
+        int min;        ///< Of the values, as max.
         int max;
-        int offset = 0;
-        std::int32_t* field;
-        int standard;  ///< What "Set as default" sets.
         LPCWSTR help;
         CValueSlider::Number number = CValueSlider::Number::Saved;
     };
     struct CheckBoxSetup {
         UINT id;
         LPCWSTR text;
-        std::int32_t* field;
-        std::optional<int> standard;
         LPCWSTR help;
     };
-    struct RadioSetup {
-        std::int32_t* field;
-        int value;  ///< What is selected first; for a value that is no choice nothing is, and the field stays.
-        int standard;
-        std::vector<CRadioGroup::Choice> choices;
+    using Choices = std::vector<CRadioGroup::Choice>;
+    /// How a control that is like none of the others holds its field's value.
+    struct Binding {
+        std::function<int()> get;
+        std::function<void(int)> set;
+        std::function<void(bool)> enable = {};  ///< Empty where the plain enable rule does not hold.
     };
 
     using CEffectSettingsDlg::CEffectSettingsDlg;
 
     // Each creates a control with the field's value and keeps the two together.
 
-    bool AddEnable(std::int32_t& field);
-    bool AddSlider(CValueSlider& slider, const SliderSetup& setup);
-    bool AddCheckBox(CSkinCheckBox& box, const CheckBoxSetup& setup);
-    bool AddRadioGroup(CRadioGroup& group, const RadioSetup& setup);
-    bool AddNumberEdit(CNumberEdit& edit, UINT id, std::int32_t& field, int standard, LPCWSTR help);
+    bool AddEnable(const Field& field);
+    bool AddSlider(CValueSlider& slider, const Field& field, const SliderSetup& setup);
+    bool AddCheckBox(CSkinCheckBox& box, const Field& field, const CheckBoxSetup& setup);
+    /// @param shown  What is selected first; for a value that is no choice nothing is, and the field stays.
+    bool AddRadioGroup(CRadioGroup& group, const Field& field, const Choices& choices, int shown);
+    bool AddNumberEdit(CNumberEdit& edit, const Field& field, UINT id, LPCWSTR help);
+    void Bind(const Field& field, const Binding& binding);
 
     /// Every control but "Enable" follows "Enable".
     void SyncControls() override;
@@ -68,13 +67,10 @@ protected:
     static CValueSlider::Places TallRow() { return {At(20, 325, 150), At(20, 350, 430), At(460, 350, 50)}; }
 
 private:
-    struct Binding {
-        std::int32_t* field;
-        std::optional<int> standard;
-        std::function<int()> get;
-        std::function<void(int)> set;
-        std::function<void(bool)> enable;  ///< Empty for "Enable" itself.
+    struct BoundField {
+        Field field;
+        Binding control;
     };
 
-    std::vector<Binding> m_bindings;
+    std::vector<BoundField> m_fields;
 };

@@ -1,23 +1,15 @@
 // Streak: a switch and the heavy mode.
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
-class CStreakDlg : public CEffectDlg<IEffectStreak, StreakSettings> {
-public:
-    CStreakDlg() : CEffectDlg(EffectId::Streak) {}
-
-private:
+class CStreakDlg : public CEffectDlg<EffectId::Streak> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddCheckBox(m_heavyMode,
-                           {.id = 12,
-                            .text = L"Heavy Mode",
-                            .field = &m_settings->heavyMode,
-                            .standard = 0,
-                            .help = L"If checked, the effect will show the object motion from point to point very "
-                                    L"slow, it will look like having the same object in more than one place."});
+        return AddEnable() &&
+               AddCheckBox(m_heavyMode, &StreakSettings::heavyMode,
+                           {12, L"Heavy Mode",
+                            L"If checked, the effect will show the object motion from point to point very "
+                            L"slow, it will look like having the same object in more than one place."});
     }
 
     void LayoutControls() override {
@@ -27,8 +19,8 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectStreak::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectStreak::put_HeavyMode, AutomationBool(m_heavyMode));
+        Put(&IEffectStreak::put_Enable, m_enable);
+        Put(&IEffectStreak::put_HeavyMode, m_heavyMode);
     }
 
     CSkinCheckBox m_heavyMode;

@@ -1,18 +1,19 @@
 #include "effects/value_slider.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "skin/numbers.h"
 
 bool CValueSlider::Create(CSkinDialog& dialog, const Setup& setup) {
-    m_offset = setup.offset;
+    m_offset = (std::max)(-setup.min, 0);
     m_shown = setup.number;
     if (setup.label && !dialog.AddLabel(m_label, setup.label)) return false;
     if (!CSkinSlider::Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &dialog, setup.id)) return false;
     dialog.AddControl(*this, setup.help);
     if (!dialog.AddLabel(m_number, L"")) return false;
-    SetMaximum(static_cast<double>(setup.max) + setup.offset);
-    SetMinimum(static_cast<double>(setup.min) + setup.offset);
+    SetMaximum(static_cast<double>(setup.max) + m_offset);
+    SetMinimum(static_cast<double>(setup.min) + m_offset);
     SetValue(setup.value);
     ShowNumber(setup.value);
     return true;

@@ -12,10 +12,9 @@ public:
 
     struct Setup {
         UINT id;
-        LPCWSTR label = nullptr;  ///< Null where something else stands in the label's place.
-        int min;
+        LPCWSTR label;  ///< Null where something else stands in the label's place.
+        int min;        ///< Of the values, as max.
         int max;
-        int offset = 0;  ///< The slider holds value + offset.
         int value;
         LPCWSTR help;
         Number number = Number::Saved;
@@ -40,7 +39,7 @@ public:
 private:
     void ShowNumber(int number);
 
-    int m_offset = 0;
+    int m_offset = 0;  // The slider holds value + offset, and so nothing below 0.
     Number m_shown = Number::Saved;
     CSkinStatic m_label;
     CSkinStatic m_number;

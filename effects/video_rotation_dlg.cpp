@@ -3,7 +3,6 @@
 #include <array>
 
 #include "effects/effect_dlg.h"
-#include "effects/effect_makers.h"
 
 namespace {
 
@@ -14,30 +13,20 @@ constexpr std::array<CRadioGroup::Choice, 4> kAngles = {{
     {16, 270, L"270 Degrees", L"Rotate 270 degrees."},
 }};
 
-class CVideoRotationDlg : public CEffectDlg<IEffectVideoRotation, VideoRotationSettings> {
+class CVideoRotationDlg : public CEffectDlg<EffectId::VideoRotation> {
 public:
-    CVideoRotationDlg() : CEffectDlg(EffectId::VideoRotation, {.firstSync = FirstSync::OnFirstClick}) {}
+    CVideoRotationDlg() : CEffectDlg({.firstSync = FirstSync::OnFirstClick}) {}
 
 private:
     bool CreateControls() override {
         // The one write before OK: an angle that is no choice becomes 0 at once, and stays so after Cancel.
         if (!IsChoice(m_settings->angle)) m_settings->angle = 0;
-        return AddEnable(m_settings->enabled) && AddLabel(m_firstLabel, L"First Action:") &&
-               AddCheckBox(m_flip, {.id = 12,
-                                    .text = L"Flip",
-                                    .field = &m_settings->flip,
-                                    .standard = 0,
-                                    .help = L"If checked, flip the video."}) &&
-               AddCheckBox(m_reverse, {.id = 13,
-                                       .text = L"Reverve",
-                                       .field = &m_settings->reverse,
-                                       .standard = 0,
-                                       .help = L"If checked, reverse the video."}) &&
+        return AddEnable() && AddLabel(m_firstLabel, L"First Action:") &&
+               AddCheckBox(m_flip, &VideoRotationSettings::flip, {12, L"Flip", L"If checked, flip the video."}) &&
+               AddCheckBox(
+                   m_reverse, &VideoRotationSettings::reverse, {13, L"Reverve", L"If checked, reverse the video."}) &&
                AddLabel(m_secondLabel, L"Second Action:") &&
-               AddRadioGroup(m_angle, {.field = &m_settings->angle,
-                                       .value = m_settings->angle,
-                                       .standard = 0,
-                                       .choices = {kAngles.begin(), kAngles.end()}});
+               AddRadioGroup(m_angle, &VideoRotationSettings::angle, {kAngles.begin(), kAngles.end()});
     }
 
     void LayoutControls() override {
@@ -57,8 +46,8 @@ private:
 
     void ApplyToFilter() override {
         if (m_enable.IsChecked()) {
-            Put(&IEffectVideoRotation::put_Flip, AutomationBool(m_flip));
-            Put(&IEffectVideoRotation::put_Reverse, AutomationBool(m_reverse));
+            Put(&IEffectVideoRotation::put_Flip, m_flip);
+            Put(&IEffectVideoRotation::put_Reverse, m_reverse);
             Put(&IEffectVideoRotation::put_Angle, m_angle.Value().value_or(0));
         } else {
             Put(&IEffectVideoRotation::put_Angle, 0);

@@ -1,31 +1,14 @@
 // Wave: a switch, the detection threshold and the speed of the waves.
-#include "effects/effect_makers.h"
 #include "effects/motion_dlg.h"
 
 namespace {
 
-class CWaveDlg : public CEffectDlg<IEffectWave, WaveSettings> {
-public:
-    CWaveDlg() : CEffectDlg(EffectId::Wave) {}
-
-private:
+class CWaveDlg : public CEffectDlg<EffectId::Wave> {
     bool CreateControls() override {
-        return AddEnable(m_settings->enabled) &&
-               AddSlider(m_threshold,
-                         {.id = 12,
-                          .label = L"Threshold(1 - 100):",
-                          .min = 1,
-                          .max = 100,
-                          .field = &m_settings->threshold,
-                          .standard = 70,
-                          .help = kThresholdHelp}) &&
-               AddSlider(m_speed, {.id = 13,
-                                   .label = L"Wave Speed(1 - 10):",
-                                   .min = 1,
-                                   .max = 10,
-                                   .field = &m_settings->waveSpeed,
-                                   .standard = 2,
-                                   .help = L"Controls the wave speed. Higher value, faster waves."});
+        return AddEnable() &&
+               AddSlider(m_threshold, &WaveSettings::threshold, {12, L"Threshold(%d - %d):", 1, 100, kThresholdHelp}) &&
+               AddSlider(m_speed, &WaveSettings::waveSpeed,
+                         {13, L"Wave Speed(%d - %d):", 1, 10, L"Controls the wave speed. Higher value, faster waves."});
     }
 
     void LayoutControls() override {
@@ -36,9 +19,9 @@ private:
     }
 
     void ApplyToFilter() override {
-        Put(&IEffectWave::put_Enable, AutomationBool(m_enable));
-        Put(&IEffectWave::put_Threshold, m_threshold.Value());
-        Put(&IEffectWave::put_WaveSpeed, m_speed.Value());
+        Put(&IEffectWave::put_Enable, m_enable);
+        Put(&IEffectWave::put_Threshold, m_threshold);
+        Put(&IEffectWave::put_WaveSpeed, m_speed);
     }
 
     CValueSlider m_threshold;

@@ -14,7 +14,6 @@ struct EffectInfo {
     bool hasArea;  ///< The effect can be limited to a rectangle, and the title shows the video's size.
     ChainKind chain;
     CLSID filterClass;
-    IID propertyInterface;
     LPCWSTR description;  ///< Help text of the "Enable" check box.
 };
 
