@@ -1,4 +1,4 @@
-// All thirty dialogs: first push, every control, "Set as default", OK and Cancel.
+// All dialogs: window, moniker, first push, every control, "Set as default", OK and Cancel.
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -18,6 +18,40 @@ const std::vector<DialogRow>& AllDialogRows() {
     return rows;
 }
 
+TEST(AllDialogs, EveryEffectHasARow) {
+    const auto hasRow = [](EffectId effect) {
+        const std::vector<DialogRow>& rows = AllDialogRows();
+        return std::any_of(
+            rows.begin(), rows.end(), [effect](const DialogRow& row) { return row.effect.id == effect; });
+    };
+#define EXPECT_ROW(name, number) EXPECT_TRUE(hasRow(EffectId::name)) << #name;
+    EFFECT_SETTINGS_EFFECTS(EXPECT_ROW)
+#undef EXPECT_ROW
+}
+
+TEST(AllDialogs, EachHasItsTitleSizePreviewAndMoniker) {
+    for (const DialogRow& row : AllDialogRows()) {
+        SCOPED_TRACE(row.effect.name);
+        const bool isAudio = row.effect.id == EffectId::AudioChorus;
+        const bool hasArea = row.effect.hasArea;
+        Session session(row.effect.id, row.openings.front().record);
+        session.Run([&](DialogDriver& dialog) {
+            EXPECT_EQ(dialog.Title(), row.window.title + (hasArea ? L"(720x480)" : L""));
+            EXPECT_EQ(dialog.ClientRect().right, row.window.width);
+            EXPECT_EQ(dialog.ClientRect().bottom, row.window.height);
+            const HWND panel = session.host.PreviewWindow();
+            EXPECT_EQ(panel, dialog.Child(hasArea || isAudio ? 21 : 11));
+            EXPECT_EQ(dialog.ClientRect(panel).right, row.window.width - 3);
+            EXPECT_EQ(dialog.ClientRect(panel).bottom, 240);
+        });
+        const std::string category =
+            isAudio ? "{5FFE757A-509A-477E-A1F1-68812010A6DD}" : "{E526D606-22E7-494C-B81E-AC0A94BFE603}";
+        const std::string moniker =
+            "@device:sw:" + category + "\\{" + row.window.filter + "-38C5-11D5-91F6-00104BDB8FF9}";
+        EXPECT_EQ(session.host.LastMoniker(), std::wstring(moniker.begin(), moniker.end()));
+    }
+}
+
 /// The end of all pushes that is as long as one of them; without one, all there is.
 std::string LastOf(const std::string& pushes, const std::string& one) {
     return one.empty() || pushes.size() < one.size() ? pushes : pushes.substr(pushes.size() - one.size());
@@ -26,8 +60,8 @@ std::string LastOf(const std::string& pushes, const std::string& one) {
 TEST(AllDialogs, TheFirstPushAndAnUntouchedOkFollowTheRecord) {
     for (const DialogRow& row : AllDialogRows()) {
         for (const Opening& opening : row.openings) {
-            SCOPED_TRACE(testing::Message() << static_cast<int>(row.effect) << " " << opening.push);
-            Session session(row.effect, opening.record);
+            SCOPED_TRACE(testing::Message() << row.effect.name << " " << opening.push);
+            Session session(row.effect.id, opening.record);
             session.Run([&](DialogDriver& dialog) {
                 EXPECT_EQ(session.Pushes(), opening.push);
                 dialog.Key(VK_RETURN);
@@ -40,9 +74,9 @@ TEST(AllDialogs, TheFirstPushAndAnUntouchedOkFollowTheRecord) {
 
 TEST(AllDialogs, EveryControlPushesAllValuesOncePerMove) {
     for (const DialogRow& row : AllDialogRows()) {
-        SCOPED_TRACE(static_cast<int>(row.effect));
+        SCOPED_TRACE(row.effect.name);
         std::vector<unsigned long> numbers;
-        Session session(row.effect, row.openings.front().record);
+        Session session(row.effect.id, row.openings.front().record);
         session.Run([&](DialogDriver& dialog) {
             session.Pushes();
             for (const Step& step : row.steps) {
@@ -68,7 +102,7 @@ TEST(AllDialogs, EveryControlPushesAllValuesOncePerMove) {
         EXPECT_EQ(session.record, row.stepped);
 
         // The same numbers stand there when what was saved is opened.
-        Session again(row.effect, session.record);
+        Session again(row.effect.id, session.record);
         again.Run([&](DialogDriver& dialog) {
             auto number = numbers.begin();
             for (const Step& step : row.steps) {
@@ -88,15 +122,15 @@ TEST(AllDialogs, ADragRenewsTheNumberEvenWhereTheSliderStays) {
                 if (slider && ::IsWindowEnabled(slider)) look(step, slider);
             }
         };
-        Session session(row.effect, row.openings[2].record);
+        Session session(row.effect.id, row.openings[2].record);
         session.Run([&](DialogDriver& dialog) {
             lookAtNumbers(dialog, [&](const Step& step, HWND) { highest.push_back(dialog.PixelSum(step.number)); });
         });
-        Session above(row.effect, row.openings[3].record);
+        Session above(row.effect.id, row.openings[3].record);
         above.Run([&](DialogDriver& dialog) {
             auto number = highest.begin();
             lookAtNumbers(dialog, [&](const Step& step, HWND slider) {
-                SCOPED_TRACE(testing::Message() << static_cast<int>(row.effect) << " " << step.sliderId);
+                SCOPED_TRACE(testing::Message() << row.effect.name << " " << step.sliderId);
                 EXPECT_NE(dialog.PixelSum(step.number), *number) << "the record's number is shown at first";
                 const LONG right = dialog.ClientRect(slider).right;
                 dialog.Press({right - 3, 10}, slider);
@@ -109,46 +143,13 @@ TEST(AllDialogs, ADragRenewsTheNumberEvenWhereTheSliderStays) {
 }
 
 TEST(AllDialogs, OnlyTheCommandsOfBoxesAndButtonsDoAnything) {
-    const std::vector<std::pair<EffectId, std::vector<int>>> heard = {
-        {EffectId::AutoContrast, {}},
-        {EffectId::AutoIntensity, {}},
-        {EffectId::AutoLevel, {}},
-        {EffectId::Brightness, {14}},
-        {EffectId::Color, {14, 16}},
-        {EffectId::Deblocking, {}},
-        {EffectId::EdgeEnhance, {12}},
-        {EffectId::Aging,
-         {14, 16, 23, 24, 25, 26, 27, 28, 30, 31, 32, 33, 35, 36, 37, 38, 40, 41, 42, 43, 45, 46, 47, 48}},
-        {EffectId::BumpMap, {14, 16}},
-        {EffectId::Dizzy, {16}},
-        {EffectId::Fire, {13, 14, 17, 19, 20, 21, 22, 23, 24, 25, 26, 27, 29}},
-        {EffectId::GlassTile, {16}},
-        {EffectId::Hologram, {13, 14, 17}},
-        {EffectId::Lens, {14, 16}},
-        {EffectId::Lightning, {13, 14}},
-        {EffectId::Maze, {14, 15, 16}},
-        {EffectId::MotionBlur, {}},
-        {EffectId::MotionEmboss, {13, 14, 18, 19}},
-        {EffectId::MotionMosaic, {13, 14}},
-        {EffectId::MotionScan, {14, 16}},
-        {EffectId::Particles, {}},
-        {EffectId::Rain, {14, 16}},
-        {EffectId::Streak, {12}},
-        {EffectId::Wave, {}},
-        {EffectId::Emboss, {14, 15, 16}},
-        {EffectId::GammaCorrection, {}},
-        {EffectId::Mosaic, {16}},
-        {EffectId::UnsharpMask, {}},
-        {EffectId::VideoRotation, {12, 13, 14, 15, 16, 17}},
-        {EffectId::AudioChorus, {}},
-    };
-    ASSERT_EQ(heard.size(), static_cast<std::size_t>(kLastEffectId));
-    for (const auto& [effect, ids] : heard) {
-        Session session(effect, Record(25, 1));
+    for (const DialogRow& row : AllDialogRows()) {
+        const std::vector<int>& ids = row.controls.boxes;
+        Session session(row.effect.id, Record(25, 1));
         session.Run([&](DialogDriver& dialog) {
             session.Pushes();
             for (int id = 4; id < 300; ++id) {
-                SCOPED_TRACE(testing::Message() << static_cast<int>(effect) << " " << id);
+                SCOPED_TRACE(testing::Message() << row.effect.name << " " << id);
                 const bool isHeard = id == 10 || std::find(ids.begin(), ids.end(), id) != ids.end();
                 if (id == 38 || id == 48) continue;  // They open a dialog of the system.
                 dialog.Command(static_cast<WORD>(id));
@@ -174,14 +175,24 @@ TEST(AllDialogs, SetAsDefaultIsSavedByOkOnly) {
                 {"Esc", {}, VK_ESCAPE, 2},
                 {"close button", {-15, 0}, 0, 2}};
     for (const DialogRow& row : AllDialogRows()) {
+        const bool keepsAll = row.effect.id <= EffectId::AutoLevel;  // These leave their one switch alone.
+        std::string defaultPush;
+        if (!keepsAll) {
+            Session fresh(row.effect.id, row.effect.defaults);
+            fresh.Run([&](DialogDriver& dialog) {
+                defaultPush = fresh.Pushes();
+                dialog.Key(VK_RETURN);
+            });
+            EXPECT_EQ(fresh.record, row.effect.defaults) << row.effect.name;
+        }
         for (const auto& way : ways) {
-            SCOPED_TRACE(testing::Message() << static_cast<int>(row.effect) << " " << way.name);
+            SCOPED_TRACE(testing::Message() << row.effect.name << " " << way.name);
             const Opening& lowest = row.openings[1];
-            Session session(row.effect, lowest.record);
+            Session session(row.effect.id, lowest.record);
             session.Run([&](DialogDriver& dialog) {
                 session.Pushes();
                 ClickDefault(dialog);
-                EXPECT_EQ(LastOf(session.Pushes(), row.defaultPush), row.defaultPush);
+                EXPECT_EQ(LastOf(session.Pushes(), defaultPush), defaultPush);
                 const RECT client = dialog.ClientRect();
                 if (way.key) {
                     dialog.Key(way.key);
@@ -192,22 +203,22 @@ TEST(AllDialogs, SetAsDefaultIsSavedByOkOnly) {
                 EXPECT_FALSE(dialog.IsOpen());
             });
             EXPECT_EQ(session.result, way.result);
-            EXPECT_EQ(session.record, way.result == 1 ? row.defaults : lowest.record);
+            EXPECT_EQ(session.record, way.result == 1 && !keepsAll ? row.effect.defaults : lowest.record);
         }
     }
 }
 
 TEST(AllDialogs, TheEnableRulesFirstRunWhenEachFamilyRunsThem) {
     for (const DialogRow& row : AllDialogRows()) {
-        SCOPED_TRACE(static_cast<int>(row.effect));
-        Session session(row.effect, row.openings[1].record);  // Switched off.
+        SCOPED_TRACE(row.effect.name);
+        Session session(row.effect.id, row.openings[1].record);  // Switched off.
         session.Run([&](DialogDriver& dialog) {
-            for (const int id : row.sliders) {
-                EXPECT_EQ(::IsWindowEnabled(dialog.Child(id)) != FALSE, row.startsEnabled) << id;
+            for (const int id : row.controls.sliders) {
+                EXPECT_EQ(::IsWindowEnabled(dialog.Child(id)) != FALSE, row.controls.startEnabled) << id;
             }
             dialog.Click({40, 305});
             dialog.Click({40, 305});
-            for (const int id : row.sliders) EXPECT_FALSE(::IsWindowEnabled(dialog.Child(id))) << id;
+            for (const int id : row.controls.sliders) EXPECT_FALSE(::IsWindowEnabled(dialog.Child(id))) << id;
         });
     }
 }

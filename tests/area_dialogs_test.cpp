@@ -72,6 +72,16 @@ const Member kMembers[] = {
     {EffectId::Mosaic, 7, 2, 3, 384, kStructure},
 };
 
+TEST(AreaDialogs, EveryEffectWithAnAreaIsAMember) {
+    const auto isMember = [](EffectId effect) {
+        return std::any_of(std::begin(kMembers), std::end(kMembers),
+                           [effect](const Member& member) { return member.effect == effect; });
+    };
+#define EXPECT_MEMBER(name, number) EXPECT_EQ(isMember(EffectId::name), HasArea<name##Settings>) << #name;
+    EFFECT_SETTINGS_EFFECTS(EXPECT_MEMBER)
+#undef EXPECT_MEMBER
+}
+
 /// The part of the pushes that is about the area, and how many pushes there were.
 struct AreaPush {
     std::string text;

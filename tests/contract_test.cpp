@@ -334,73 +334,7 @@ TEST(Contract, StructuresArriveByValueFieldByField) {
     }
 }
 
-// --- the thirty effects, by what their dialogs show and ask for ---
-
-constexpr wchar_t kVideo[] = L"@device:sw:{E526D606-22E7-494C-B81E-AC0A94BFE603}\\{";
-constexpr wchar_t kAudio[] = L"@device:sw:{5FFE757A-509A-477E-A1F1-68812010A6DD}\\{";
-constexpr wchar_t kTail[] = L"-38C5-11D5-91F6-00104BDB8FF9}";
-
-TEST(Contract, EveryEffectHasItsTitleSizeAndMoniker) {
-    const struct {
-        int id;
-        const wchar_t* title;
-        int width;
-        int height;
-        const wchar_t* filter;
-    } rows[] = {
-        {1, L"Auto Contrast Setting", 500, 420, L"E2B7DD0E"},
-        {2, L"Auto Intensity Setting", 500, 430, L"E2B7DD13"},
-        {3, L"Auto Level Setting", 500, 430, L"E2B7DD09"},
-        {4, L"Brightness Settings", 560, 500, L"E2B7DD1D"},
-        {5, L"Color Settings(720x576)", 500, 630, L"E2B7DB10"},
-        {6, L"Deblocking Settings", 500, 580, L"E2B7DBF1"},
-        {7, L"Edge Enhance Settings", 500, 460, L"E2B7DBEB"},
-        {8, L"Aging Settings(720x576)", 800, 630, L"E2B7DC2A"},
-        {9, L"Bump Map Settings(720x576)", 500, 680, L"E2B7DC42"},
-        {10, L"Dizzy Settings(720x576)", 500, 585, L"E2B7DC32"},
-        {11, L"Fire Settings", 560, 645, L"E2B7DBFF"},
-        {12, L"Glass Tile Settings(720x576)", 500, 560, L"E2B7DC36"},
-        {13, L"Hologram Settings", 560, 590, L"E2B7DC03"},
-        {14, L"Lens Settings(720x576)", 500, 540, L"E2B7DC3A"},
-        {15, L"Lightning Settings", 560, 500, L"E2B7DC17"},
-        {16, L"Maze Settings(720x576)", 500, 540, L"E2B7DC3E"},
-        {17, L"Motion Blur Settings", 560, 500, L"E2B7DC0F"},
-        {18, L"Motion Emboss Settings", 560, 620, L"E2B7DC1B"},
-        {19, L"Motion Mosaic Settings", 560, 540, L"E2B7DC0B"},
-        {20, L"Motion Scan Settings(720x576)", 500, 540, L"E2B7DBF7"},
-        {21, L"Particles Settings", 500, 460, L"E2B7DC07"},
-        {22, L"Rain Settings(720x576)", 500, 560, L"E2B7DC2E"},
-        {23, L"Streak Settings", 500, 400, L"E2B7DBFB"},
-        {24, L"Wave Settings", 560, 470, L"E2B7DC13"},
-        {25, L"Emboss Settings(720x576)", 500, 600, L"E2B7DB17"},
-        {26, L"Gamma Correction Settings", 500, 460, L"E2B7DB14"},
-        {27, L"Mosaic Settings(720x576)", 500, 520, L"E2B7DB28"},
-        {28, L"Unsharp Mask Settings", 560, 500, L"E2B7DE21"},
-        {29, L"Video Rotation Settings", 500, 500, L"E2B7DE1C"},
-        {30, L"Audio Chorus Settings", 500, 680, L"E2B7DB38"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.id);
-        const auto effect = static_cast<EffectId>(row.id);
-        RecordingHost host(effect);
-        IMediaHost* pointer = &host;
-        std::int32_t record[32] = {};
-        RunDialog([&] { ShowSettingsDialog(&pointer, effect, 720, 576, 360, 288, record); },
-                  [&](DialogDriver& dialog) {
-                      EXPECT_EQ(dialog.Title(), row.title);
-                      EXPECT_EQ(dialog.ClientRect().right, row.width);
-                      EXPECT_EQ(dialog.ClientRect().bottom, row.height);
-                      const bool sliderHasTheUsualId = row.id == 30 || dialog.Title().ends_with(L")");
-                      EXPECT_EQ(host.PreviewWindow(), dialog.Child(sliderHasTheUsualId ? 21 : 11));
-                      const RECT panel = dialog.ClientRect(host.PreviewWindow());
-                      EXPECT_EQ(panel.right, row.width - 3);
-                      EXPECT_EQ(panel.bottom, 240);
-                  });
-        EXPECT_EQ(host.LastMoniker(), std::wstring(row.id == 30 ? kAudio : kVideo) + row.filter + kTail);
-        EXPECT_EQ(host.LastMoniker().size(), 88U);
-        EXPECT_EQ(host.OpenReferences(), 0U);
-    }
-}
+// --- calls that show nothing ---
 
 TEST(Contract, WhatCannotBeShownGivesZeroAndTouchesNothing) {
     RecordingHost host(EffectId::GammaCorrection);

@@ -1,8 +1,11 @@
 // How it is written down what a dialog sends and saves.
 #pragma once
 
+#include <array>
+#include <bit>
 #include <climits>
 #include <cstdint>
+#include <numeric>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -59,13 +62,66 @@ inline Step Slide(int id, int x, const RECT& number, const std::string& push, co
     return {{x, 10}, push, id, number, dragPush};
 }
 
-struct DialogRow {
-    EffectId effect;
-    bool startsEnabled;  ///< Sliders are enabled at the start even if the effect is not.
-    std::vector<int> sliders;
-    std::vector<Opening> openings;  ///< A middle, the lowest, the highest record, one above and one below all ranges.
-    std::string defaultPush;        ///< "Set as default", from the lowest record.
+/// A public record: its effect, and the values of a new one.
+struct RecordRow {
+    EffectId id;
+    const char* name;
+    bool hasArea;
     Record defaults;
-    std::vector<Step> steps;  ///< From the middle record.
+};
+
+template <typename Settings>
+concept HasArea = requires(Settings settings) {
+    settings.areaEnabled;
+};
+
+template <typename Settings>
+using FieldsOf = std::array<std::int32_t, sizeof(Settings) / sizeof(std::int32_t)>;
+
+/// A record whose fields are 0, 1, 2 and so on, as they lie in memory.
+template <typename Settings>
+constexpr Settings Numbered() {
+    FieldsOf<Settings> fields{};
+    std::iota(fields.begin(), fields.end(), 0);
+    return std::bit_cast<Settings>(fields);
+}
+
+template <typename Settings>
+Record ValuesOf(const Settings& settings) {
+    const auto fields = std::bit_cast<FieldsOf<Settings>>(settings);
+    return {fields.begin(), fields.end()};
+}
+
+/// Compiles only when the fields named are all there are, of 32 bits each and in this order.
+#define RECORD(effect, ...)                                                                                   \
+    [] {                                                                                                      \
+        struct Fields : effect##Settings {                                                                    \
+            constexpr bool AreInOrder() const {                                                               \
+                std::int32_t next = 0;                                                                        \
+                for (const std::int32_t field : {__VA_ARGS__}) {                                              \
+                    if (field != next++) return false;                                                        \
+                }                                                                                             \
+                return next == static_cast<std::int32_t>(FieldsOf<effect##Settings>().size());                \
+            }                                                                                                 \
+        };                                                                                                    \
+        static_assert(Fields{Numbered<effect##Settings>()}.AreInOrder());                                     \
+        return RecordRow{EffectId::effect, #effect, HasArea<effect##Settings>, ValuesOf(effect##Settings{})}; \
+    }()
+
+struct DialogRow {
+    RecordRow effect;
+    struct {
+        std::wstring title;  ///< Without the video's size.
+        int width;
+        int height;
+        const char* filter;  ///< The first group of the filter's class id.
+    } window;
+    struct {
+        bool startEnabled;  ///< Even if the effect is off.
+        std::vector<int> sliders;
+        std::vector<int> boxes;  ///< All other ids whose command pushes, but for "Enable".
+    } controls;
+    std::vector<Opening> openings;  ///< A middle, the lowest, the highest record, one above and one below all ranges.
+    std::vector<Step> steps;        ///< From the middle record.
     Record stepped;
 };
