@@ -89,13 +89,13 @@ BOOL CSkinDialog::OnInitDialog() {
     try {
         return OnOpening();
     } catch (...) {
-        Answer(-1);
+        EndDialog(-1);
         return FALSE;
     }
 }
 
-void CSkinDialog::Answer(int result) {
-    if (!std::exchange(m_answered, true)) EndDialog(result);
+void CSkinDialog::EndDialog(int result) {
+    if (!std::exchange(m_answered, true)) CDialog::EndDialog(result);
 }
 
 void CSkinDialog::PlaceWindow(int width, int height, LPCWSTR title) {

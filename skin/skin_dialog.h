@@ -45,12 +45,12 @@ protected:
     /// ends with -1.
     virtual BOOL OnOpening() { return TRUE; }
     /// Ends the dialog. The first answer holds, whatever is pressed while the dialog still closes.
-    void Answer(int result);
+    void EndDialog(int result);
     bool IsAnswered() const { return m_answered; }
 
     BOOL OnInitDialog() override;
-    void OnOK() override { Answer(IDOK); }
-    void OnCancel() override { Answer(IDCANCEL); }
+    void OnOK() override { EndDialog(IDOK); }
+    void OnCancel() override { EndDialog(IDCANCEL); }
     /// Sizes the window, puts it into the middle of its owner and sets its title.
     void PlaceWindow(int width, int height, LPCWSTR title);
     const std::vector<Entry>& Controls() const { return m_controls; }

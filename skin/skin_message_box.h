@@ -36,8 +36,8 @@ protected:
     void LayoutControls() override;
     BOOL OnOpening() override;
 
-    afx_msg void OnYes() { Answer(IDYES); }
-    afx_msg void OnNo() { Answer(IDNO); }
+    afx_msg void OnYes() { EndDialog(IDYES); }
+    afx_msg void OnNo() { EndDialog(IDNO); }
     afx_msg void OnSaveInfo();
     DECLARE_MESSAGE_MAP()
 

@@ -2,7 +2,11 @@
 
 void CSkinRadioButton::DrawMark(Gdiplus::Graphics& graphics, HDC /*dc*/, int x, int y) const {
     const auto fillCircle = [&](int inset, int diameter, COLORREF color) {
-        graphics.FillEllipse(&SharedBrush(OpaqueColor(color)), x + inset, y + inset, diameter, diameter);
+        // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
+        Gdiplus::GraphicsPath circle;
+        circle.AddEllipse(x + inset, y + inset, diameter, diameter);
+        circle.Flatten(nullptr, 0.01F);
+        graphics.FillPath(&SharedBrush(OpaqueColor(color)), &circle);
     };
     graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAliasGridFit);
     fillCircle(0, 13, !IsEnabled() ? DisabledColor() : IsChecked() ? kBlueColor : kAccentColor);
