@@ -1,223 +1,139 @@
-// What each of the demo's video filters does to pictures, at values that reach it through its own interface.
+// What each of the demo's video filters does to pictures.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <limits>
+#include <set>
 #include <sstream>
 
+#include "demo_host/effects.h"
 #include "demo_host/filters/filter.h"
-#include "effect_settings/effect_filters.h"
 
 namespace {
 
-using Values = std::vector<std::int32_t>;
 using Pictures = std::vector<Frame>;
 
 constexpr int kWidth = 96;
 constexpr int kHeight = 72;
-constexpr AreaParams kNoArea = {0, 0, 1, 1, 0, {0, 0, 1, 1, 0}};
+constexpr Sizes kSizes = {{kWidth, kHeight}, {kWidth, kHeight}};
 
-/// The property interface, which lives as long as the filter.
-template <typename Properties>
-Properties& Ask(IDemoFilter& filter, REFIID iid) {
-    void* object = nullptr;
-    EXPECT_EQ(filter.QueryInterface(iid, &object), S_OK);
-    auto* properties = static_cast<Properties*>(object);
-    properties->Release();
-    return *properties;
-}
+/// Fields of an effect's record, and what they are set to.
+using Values = std::vector<std::pair<std::string, std::int32_t>>;
 
-/// Sends the switch, the area and values in the order of their setters.
-template <typename Properties, const IID& Id, auto... Setters>
-void Send(IDemoFilter& filter, std::int32_t on, const Values& values, const AreaParams& area) {
-    Properties& to = Ask<Properties>(filter, Id);
-    const auto put = [&to]<typename In, typename Value>(HRESULT (STDMETHODCALLTYPE In::*setter)(Value), int value) {
-        constexpr bool isSwitch = std::is_same_v<Value, VARIANT_BOOL>;
-        (to.*setter)(isSwitch ? (value ? VARIANT_TRUE : VARIANT_FALSE) : static_cast<Value>(value));
-    };
-    put(&Properties::put_Enable, on);
-    if constexpr (std::is_base_of_v<IEffectAreaEdges, Properties>) {
-        put(&Properties::put_AreaEnable, area.enabled);
-        put(&Properties::put_AreaLeft, area.left);
-        put(&Properties::put_AreaTop, area.top);
-        put(&Properties::put_AreaRight, area.right);
-        put(&Properties::put_AreaBottom, area.bottom);
-    }
-    [[maybe_unused]] auto value = values.begin();
-    (put(Setters, *value++), ...);
-}
-
-void SendColor(IDemoFilter& filter, std::int32_t on, const Values& v, const AreaParams& area) {
-    auto& to = Ask<IEffectColor>(filter, IID_IEffectColor);
-    to.SetColorParams({on, v[0], v[1], v[2], v[3], v[4], {1, 0, 0, 0, 0, 1}});
-    to.SetAreaParams(area);
-}
-
-void SendEmboss(IDemoFilter& filter, std::int32_t on, const Values& v, const AreaParams& area) {
-    auto& to = Ask<IEffectEmboss>(filter, IID_IEffectEmboss);
-    to.SetEmbossParams({v[0], v[1], v[2], v[3], on, 180, 90, 50, 1, 1});
-    to.SetAreaParams(area);
-}
-
-void SendGammaCorrection(IDemoFilter& filter, std::int32_t on, const Values& v, const AreaParams&) {
-    auto& to = Ask<IEffectGammaCorrection>(filter, IID_IEffectGammaCorrection);
-    to.SetGammaParams({v[0], on, 0, 0});
-}
-
-void SendMosaic(IDemoFilter& filter, std::int32_t on, const Values& v, const AreaParams& area) {
-    auto& to = Ask<IEffectMosaic>(filter, IID_IEffectMosaic);
-    to.SetMosaicParams({v[0], on, 0, 0});
-    to.SetAreaParams(area);
-}
-
-void SendVideoRotation(IDemoFilter& filter, std::int32_t on, const Values& v, const AreaParams&) {
-    auto& to = Ask<IEffectVideoRotation>(filter, IID_IEffectVideoRotation);
-    to.put_Flip(on && v[0] ? VARIANT_TRUE : VARIANT_FALSE);
-    to.put_Reverse(on && v[1] ? VARIANT_TRUE : VARIANT_FALSE);
-    to.put_Angle(on ? v[2] : 0);
-}
-
-using Sender = void(IDemoFilter& filter, std::int32_t on, const Values& values, const AreaParams& area);
-
-/// One of the second values, and what it is set to: each changes the pictures more than the one before.
+/// A field that changes the pictures more with each of these values than with the one before.
 struct Growth {
-    std::size_t place;
-    Values steps;
+    std::string field;
+    std::vector<std::int32_t> values;
 };
+
+enum class Acts { Everywhere, OnMotion };
 
 struct Row {
-    const char* name;
     EffectId effect;
-    Sender* send;
-    Values defaults;
-    Values second;
-    Values neutral;  ///< At which every picture stays as it is; none when empty.
-    std::vector<Growth> growing;
-    enum { Still, Whole, Area } kind;  ///< Leaves still pictures alone; acts on all; on all or an area.
+    Acts acts;
+    Values second;                ///< What is set besides the defaults: a second set of values,
+    Values neutral;               ///< and one that leaves every picture as it is (none when empty).
+    std::vector<Growth> growing;  ///< On top of the second set.
 };
 
-Row RowOf(const char* name, EffectId effect, Sender* send, Values defaults, Values second, Values neutral,
-          std::vector<Growth> growing, decltype(Row::kind) kind) {
-    return {name, effect, send, defaults, second, neutral, growing, kind};
+Row RowOf(EffectId effect, Acts acts, Values second, Values neutral, std::vector<Growth> growing) {
+    return {effect, acts, std::move(second), std::move(neutral), std::move(growing)};
 }
 
 const std::vector<Row> kRows = {
-    RowOf("AutoContrast", EffectId::AutoContrast, Send<IEffectAutoContrast, IID_IEffectAutoContrast>, {}, {}, {}, {},
-          Row::Whole),
-    RowOf("AutoIntensity", EffectId::AutoIntensity, Send<IEffectAutoIntensity, IID_IEffectAutoIntensity>, {}, {}, {},
-          {}, Row::Whole),
-    RowOf("AutoLevel", EffectId::AutoLevel, Send<IEffectAutoLevel, IID_IEffectAutoLevel>, {}, {}, {}, {}, Row::Whole),
-    RowOf("Brightness", EffectId::Brightness,
-          Send<IEffectBrightness, IID_IEffectBrightness, &IEffectBrightness::put_FirstFrameReference,
-               &IEffectBrightness::put_Threshold, &IEffectBrightness::put_Brightness>,
-          {1, 50, 100}, {0, 20, -700}, {1, 50, 0}, {{1, {100, 20}}, {2, {10, 100, 500}}}, Row::Still),
-    RowOf("Color", EffectId::Color, SendColor, {0, 0, 0, 0, 0}, {0, 0, 10, 0, 0}, {0, 0, 0, 0, 0},
-          {{0, {10, 60, 100}},
-           {1, {10, 60, 100}},
-           {1, {-10, -50, -100}},
-           {2, {20, 90, 180}},
-           {3, {-20, -60, -100}},
-           {3, {30, 100}}},
-          Row::Area),
-    RowOf("Deblocking", EffectId::Deblocking,
-          Send<IEffectDeblocking, IID_IEffectDeblocking, &IEffectDeblocking::put_Algorithm,
-               &IEffectDeblocking::put_EdgeThreshold, &IEffectDeblocking::put_BlockOffsetX,
-               &IEffectDeblocking::put_BlockOffsetY, &IEffectDeblocking::put_BlockWidth,
-               &IEffectDeblocking::put_BlockHeight>,
-          {0, 48, 0, 0, 8, 8}, {1, 200, 3, -5, 5, 6}, {1, 0, 0, 0, 8, 8}, {{1, {60, 255}}}, Row::Whole),
-    RowOf("EdgeEnhance", EffectId::EdgeEnhance,
-          Send<IEffectEdgeEnhance, IID_IEffectEdgeEnhance, &IEffectEdgeEnhance::put_EnableMultiplier,
-               &IEffectEdgeEnhance::put_Multiplier>,
-          {1, 100}, {1, 700}, {}, {{1, {50, 100, 1000}}}, Row::Whole),
-    RowOf("Aging", EffectId::Aging,
-          Send<IEffectAging, IID_IEffectAging, &IEffectAging::put_Channel, &IEffectAging::put_OldColor,
-               &IEffectAging::put_Scratches, &IEffectAging::put_MaxScratches, &IEffectAging::put_ScratchHeight,
-               &IEffectAging::put_Dust, &IEffectAging::put_RandomDust, &IEffectAging::put_DustRandomDensity,
-               &IEffectAging::put_DustDensity, &IEffectAging::put_AlwaysAddDust, &IEffectAging::put_DustColor,
-               &IEffectAging::put_DustColorMode, &IEffectAging::put_Pits, &IEffectAging::put_RandomPits,
-               &IEffectAging::put_PitsRandomDensity, &IEffectAging::put_PitsDensity, &IEffectAging::put_AlwaysAddPits,
-               &IEffectAging::put_PitsColorMode, &IEffectAging::put_PitsColor>,
-          {1, 1, 1, 2, 1600, 1, 1, 1, 1, 0, 0, 2, 1, 1, 1, 1, 0, 2, 0x969696},
-          {4, 0, 1, 20, 30, 1, 0, 0, 60, 1, 0xFF00FF, 4, 1, 0, 1, 60, 1, 1, 0},
-          {1, 0, 0, 2, 1600, 0, 1, 1, 1, 0, 0, 2, 0, 1, 1, 1, 0, 2, 0},
-          {{1, {0, 1}}, {3, {0, 5, 100}}, {4, {1, 30, 72}}, {8, {1, 30, 100}}}, Row::Area),
-    RowOf("BumpMap", EffectId::BumpMap,
-          Send<IEffectBumpMap, IID_IEffectBumpMap, &IEffectBumpMap::put_LightAngle, &IEffectBumpMap::put_Elevation,
-               &IEffectBumpMap::put_Depth, &IEffectBumpMap::put_Ambient, &IEffectBumpMap::put_XOffset,
-               &IEffectBumpMap::put_YOffset, &IEffectBumpMap::put_Invert>,
-          {135, 45, 3, 0, 0, 0, 0}, {300, 30, 20, 40, 0, 0, 1}, {135, 45, 3, 255, 0, 0, 0},
-          {{2, {1, 10, 65}}, {3, {200, 100, 0}}}, Row::Area),
-    RowOf("Dizzy", EffectId::Dizzy,
-          Send<IEffectDizzy, IID_IEffectDizzy, &IEffectDizzy::put_ZoomLevel, &IEffectDizzy::put_RotationSpeed>,
-          {10, 20}, {0, 30}, {0, 0}, {{0, {0, 50, 300}}, {1, {5, 20, 60}}}, Row::Area),
-    RowOf("Fire", EffectId::Fire,
-          Send<IEffectFire, IID_IEffectFire, &IEffectFire::put_GradientLevel, &IEffectFire::put_ColorsOffset,
-               &IEffectFire::put_Decay, &IEffectFire::put_Threshold, &IEffectFire::put_FlameDirection,
-               &IEffectFire::put_EntireObject, &IEffectFire::put_ShowBackground, &IEffectFire::put_NoReference,
-               &IEffectFire::put_FirstFrameReference>,
-          {50, 660, 15, 50, kFlameNorth, 1, 0, 0, 1}, {0, 100, 5, 20, kFlameGlow, 0, 1, 0, 0}, {},
-          {{2, {100, 30, 2}}, {3, {100, 20}}}, Row::Still),
-    RowOf("GlassTile", EffectId::GlassTile,
-          Send<IEffectGlassTile, IID_IEffectGlassTile, &IEffectGlassTile::put_TileWidth,
-               &IEffectGlassTile::put_TileHeight, &IEffectGlassTile::put_Refraction>,
-          {20, 20, 2}, {7, 33, 6}, {}, {{2, {2, 4, 10}}}, Row::Area),
-    RowOf("Hologram", EffectId::Hologram,
-          Send<IEffectHologram, IID_IEffectHologram, &IEffectHologram::put_Hue, &IEffectHologram::put_Noise,
-               &IEffectHologram::put_Threshold, &IEffectHologram::put_LineNoise, &IEffectHologram::put_NoReference,
-               &IEffectHologram::put_FirstFrameReference>,
-          {0, 10, 50, 1, 0, 1}, {200, 80, 10, 0, 0, 0}, {}, {{1, {1, 50, 100}}, {2, {100, 20}}}, Row::Still),
-    RowOf("Lens", EffectId::Lens,
-          Send<IEffectLens, IID_IEffectLens, &IEffectLens::put_Refraction, &IEffectLens::put_KeepSurroundings>, {20, 1},
-          {120, 0}, {}, {{0, {10, 50, 160}}}, Row::Area),
-    RowOf("Lightning", EffectId::Lightning,
-          Send<IEffectLightning, IID_IEffectLightning, &IEffectLightning::put_Threshold,
-               &IEffectLightning::put_NoReference, &IEffectLightning::put_FirstFrameReference>,
-          {50, 0, 1}, {10, 0, 0}, {}, {}, Row::Still),
-    RowOf("Maze", EffectId::Maze,
-          Send<IEffectMaze, IID_IEffectMaze, &IEffectMaze::put_Divisions, &IEffectMaze::put_BreakKind>, {8, 0}, {5, 1},
-          {0, 0}, {}, Row::Area),
-    RowOf("MotionBlur", EffectId::MotionBlur,
-          Send<IEffectMotionBlur, IID_IEffectMotionBlur, &IEffectMotionBlur::put_Hue, &IEffectMotionBlur::put_Threshold,
-               &IEffectMotionBlur::put_IntervalFrames>,
-          {0, 50, 2}, {120, 10, 30}, {}, {{1, {100, 20}}, {2, {1, 4, 200}}}, Row::Still),
-    RowOf("MotionEmboss", EffectId::MotionEmboss,
-          Send<IEffectMotionEmboss, IID_IEffectMotionEmboss, &IEffectMotionEmboss::put_LightAngle,
-               &IEffectMotionEmboss::put_Elevation, &IEffectMotionEmboss::put_Depth,
-               &IEffectMotionEmboss::put_Threshold, &IEffectMotionEmboss::put_BumpMap,
-               &IEffectMotionEmboss::put_NoReference, &IEffectMotionEmboss::put_FirstFrameReference>,
-          {180, 90, 10, 50, 0, 0, 1}, {30, 0, 90, 10, 1, 0, 0}, {}, {{2, {1, 10, 100}}, {3, {100, 20}}}, Row::Still),
-    RowOf("MotionMosaic", EffectId::MotionMosaic,
-          Send<IEffectMotionMosaic, IID_IEffectMotionMosaic, &IEffectMotionMosaic::put_SquareSize,
-               &IEffectMotionMosaic::put_Threshold, &IEffectMotionMosaic::put_NoReference,
-               &IEffectMotionMosaic::put_FirstFrameReference>,
-          {8, 50, 0, 1}, {24, 10, 0, 0}, {1, 50, 0, 1}, {{0, {2, 8, 32}}}, Row::Still),
-    RowOf("MotionScan", EffectId::MotionScan,
-          Send<IEffectMotionScan, IID_IEffectMotionScan, &IEffectMotionScan::put_LineIncrement,
-               &IEffectMotionScan::put_ShowScanLine>,
-          {1, 1}, {6, 0}, {kHeight, 0}, {{0, {20, 4, 1}}}, Row::Area),
-    RowOf("Particles", EffectId::Particles,
-          Send<IEffectParticles, IID_IEffectParticles, &IEffectParticles::put_Distortion>, {4}, {6}, {},
-          {{0, {1, 3, 6}}}, Row::Still),
-    RowOf("Rain", EffectId::Rain,
-          Send<IEffectRain, IID_IEffectRain, &IEffectRain::put_CustomRainDrops, &IEffectRain::put_WaveSpeed,
-               &IEffectRain::put_Density>,
-          {0, 2, 8}, {1, 6, 50}, {}, {{2, {1, 20, 100}}}, Row::Area),
-    RowOf("Streak", EffectId::Streak, Send<IEffectStreak, IID_IEffectStreak, &IEffectStreak::put_HeavyMode>, {0}, {1},
-          {}, {}, Row::Still),
-    RowOf("Wave", EffectId::Wave,
-          Send<IEffectWave, IID_IEffectWave, &IEffectWave::put_WaveSpeed, &IEffectWave::put_Threshold>, {2, 70},
-          {7, 10}, {}, {{1, {100, 20}}}, Row::Still),
-    RowOf("Emboss", EffectId::Emboss, SendEmboss, {180, 90, 50, 1}, {45, 180, 100, 0}, {}, {{2, {1, 20, 100}}},
-          Row::Area),
-    RowOf("GammaCorrection", EffectId::GammaCorrection, SendGammaCorrection, {100}, {40}, {100},
-          {{0, {120, 200, 500}}, {0, {80, 40, 1}}}, Row::Whole),
-    RowOf("Mosaic", EffectId::Mosaic, SendMosaic, {1}, {16}, {1}, {{0, {2, 8, 64}}}, Row::Area),
-    RowOf("UnsharpMask", EffectId::UnsharpMask,
-          Send<IEffectUnsharpMask, IID_IEffectUnsharpMask, &IEffectUnsharpMask::put_Amount,
-               &IEffectUnsharpMask::put_Radius, &IEffectUnsharpMask::put_Threshold>,
-          {250, 1, 0}, {80, 20, 12}, {0, 1, 0}, {{0, {50, 250, 500}}, {1, {1, 5, 20}}, {2, {200, 50, 0}}}, Row::Whole),
-    RowOf("VideoRotation", EffectId::VideoRotation, SendVideoRotation, {0, 0, 0}, {1, 0, 180}, {0, 0, 0}, {},
-          Row::Whole)};
+    RowOf(EffectId::AutoContrast, Acts::Everywhere, {}, {}, {}),
+    RowOf(EffectId::AutoIntensity, Acts::Everywhere, {}, {}, {}),
+    RowOf(EffectId::AutoLevel, Acts::Everywhere, {}, {}, {}),
+    RowOf(EffectId::Brightness, Acts::OnMotion, {{"firstFrameReference", 0}, {"threshold", 20}, {"brightness", -700}},
+          {{"brightness", 0}}, {{"threshold", {100, 20}}, {"brightness", {10, 100, 500}}}),
+    RowOf(EffectId::Color, Acts::Everywhere, {{"hue", 10}}, {{"hue", 0}},
+          {{"hue", {20, 90, 180}},
+           {"saturation", {-20, -60, -100}},
+           {"saturation", {30, 100}},
+           {"brightness", {10, 60, 100}},
+           {"contrast", {10, 60, 100}},
+           {"contrast", {-10, -50, -100}}}),
+    RowOf(EffectId::Deblocking, Acts::Everywhere,
+          {{"algorithm", 1},
+           {"edgeThreshold", 200},
+           {"blockOffsetX", 3},
+           {"blockOffsetY", -5},
+           {"blockWidth", 5},
+           {"blockHeight", 6}},
+          {{"algorithm", 1}, {"edgeThreshold", 0}}, {{"edgeThreshold", {60, 255}}}),
+    RowOf(EffectId::EdgeEnhance, Acts::Everywhere, {{"multiplier", 700}}, {}, {{"multiplier", {50, 100, 1000}}}),
+    RowOf(EffectId::Aging, Acts::Everywhere,
+          {{"oldColor", 0},
+           {"maxScratches", 20},
+           {"scratchHeight", 30},
+           {"randomDust", 0},
+           {"dustRandomDensity", 0},
+           {"alwaysAddDust", 1},
+           {"dustDensity", 60},
+           {"dustColorMode", 2},
+           {"dustColor", 0xFF00FF},
+           {"randomPits", 0},
+           {"pitsRandomDensity", 0},
+           {"alwaysAddPits", 1},
+           {"pitsColorMode", 0}},
+          {{"oldColor", 0}, {"scratches", 0}, {"dust", 0}, {"pits", 0}},
+          {{"oldColor", {0, 1}},
+           {"maxScratches", {0, 5, 100}},
+           {"scratchHeight", {1, 30, 72}},
+           {"dustDensity", {1, 30, 100}},
+           {"pitsDensity", {0, 30, 100}}}),
+    RowOf(EffectId::BumpMap, Acts::Everywhere,
+          {{"lightAngle", 300}, {"elevation", 30}, {"depth", 20}, {"ambient", 40}, {"invert", 1}}, {{"ambient", 255}},
+          {{"depth", {1, 10, 65}}, {"ambient", {200, 100, 0}}}),
+    RowOf(EffectId::Dizzy, Acts::Everywhere, {{"zoomLevel", 0}, {"rotationSpeed", 30}},
+          {{"zoomLevel", 0}, {"rotationSpeed", 0}}, {{"zoomLevel", {0, 50, 300}}, {"rotationSpeed", {5, 20, 60}}}),
+    RowOf(EffectId::Fire, Acts::OnMotion,
+          {{"gradientLevel", 0},
+           {"colorsOffset", 100},
+           {"decay", 5},
+           {"threshold", 20},
+           {"flameDirection", kFlameGlow},
+           {"entireObject", 0},
+           {"showBackground", 1},
+           {"firstFrameReference", 0}},
+          {}, {{"decay", {100, 30, 2}}, {"threshold", {100, 20}}}),
+    RowOf(EffectId::GlassTile, Acts::Everywhere, {{"tileWidth", 7}, {"tileHeight", 33}, {"refraction", 6}}, {},
+          {{"refraction", {2, 4, 10}}}),
+    RowOf(EffectId::Hologram, Acts::OnMotion,
+          {{"hue", 200}, {"noise", 80}, {"threshold", 10}, {"lineNoise", 0}, {"firstFrameReference", 0}}, {},
+          {{"noise", {1, 50, 100}}, {"threshold", {100, 20}}}),
+    RowOf(EffectId::Lens, Acts::Everywhere, {{"refraction", 120}, {"keepSurroundings", 0}}, {},
+          {{"refraction", {10, 50, 160}}}),
+    RowOf(EffectId::Lightning, Acts::OnMotion, {{"threshold", 10}, {"firstFrameReference", 0}}, {}, {}),
+    RowOf(EffectId::Maze, Acts::Everywhere, {{"divisions", 5}, {"breakKind", 1}}, {{"divisions", 0}}, {}),
+    RowOf(EffectId::MotionBlur, Acts::OnMotion, {{"hue", 120}, {"threshold", 10}, {"intervalFrames", 30}}, {},
+          {{"threshold", {100, 20}}, {"intervalFrames", {1, 4, 200}}}),
+    RowOf(EffectId::MotionEmboss, Acts::OnMotion,
+          {{"lightAngle", 30},
+           {"elevation", 0},
+           {"depth", 90},
+           {"threshold", 10},
+           {"bumpMap", 1},
+           {"firstFrameReference", 0}},
+          {}, {{"depth", {1, 10, 100}}, {"threshold", {100, 20}}}),
+    RowOf(EffectId::MotionMosaic, Acts::OnMotion, {{"squareSize", 24}, {"threshold", 10}, {"firstFrameReference", 0}},
+          {{"squareSize", 1}}, {{"squareSize", {2, 8, 32}}}),
+    RowOf(EffectId::MotionScan, Acts::Everywhere, {{"lineIncrement", 6}, {"showScanLine", 0}},
+          {{"lineIncrement", kHeight}, {"showScanLine", 0}}, {{"lineIncrement", {20, 4, 1}}}),
+    RowOf(EffectId::Particles, Acts::OnMotion, {{"value", 6}}, {}, {{"value", {1, 3, 6}}}),
+    RowOf(EffectId::Rain, Acts::Everywhere, {{"customRainDrops", 1}, {"waveSpeed", 6}, {"density", 50}}, {},
+          {{"density", {1, 20, 100}}}),
+    RowOf(EffectId::Streak, Acts::OnMotion, {{"heavyMode", 1}}, {}, {}),
+    RowOf(EffectId::Wave, Acts::OnMotion, {{"waveSpeed", 7}, {"threshold", 10}}, {}, {{"threshold", {100, 20}}}),
+    RowOf(EffectId::Emboss, Acts::Everywhere, {{"lightAngle", 45}, {"elevation", 180}, {"depth", 100}, {"emboss", 0}},
+          {}, {{"depth", {1, 20, 100}}}),
+    RowOf(EffectId::GammaCorrection, Acts::Everywhere, {{"value", 40}}, {{"value", 100}},
+          {{"value", {120, 200, 500}}, {"value", {80, 40, 1}}}),
+    RowOf(EffectId::Mosaic, Acts::Everywhere, {{"mosaicSize", 16}}, {{"mosaicSize", 1}}, {{"mosaicSize", {2, 8, 64}}}),
+    RowOf(EffectId::UnsharpMask, Acts::Everywhere, {{"amount", 80}, {"radius", 20}, {"threshold", 12}}, {{"amount", 0}},
+          {{"amount", {50, 250, 500}}, {"radius", {1, 5, 20}}, {"threshold", {200, 50, 0}}}),
+    RowOf(EffectId::VideoRotation, Acts::Everywhere, {{"flip", 1}, {"angle", 180}}, {{"angle", 0}}, {}),
+};
 
 /// A gradient, a fence of hard edges and a saturated square that moves; parts of each frame differ a little, others much.
 Frame Scene(int number, int width = kWidth, int height = kHeight) {
@@ -248,14 +164,29 @@ Pictures Through(IDemoFilter& filter, Pictures frames) {
     return frames;
 }
 
-ComPtr<IDemoFilter> Make(const Row& row, std::int32_t on, const Values& values, const AreaParams& area = kNoArea) {
-    ComPtr<IDemoFilter> filter = MakeFilter(row.effect, [](const std::string&) {});
-    row.send(*filter.Get(), on, values, area);
+std::size_t FieldOf(const Effect& effect, const std::string& name) {
+    const auto& fields = effect.fields;
+    const auto found =
+        std::find_if(fields.begin(), fields.end(), [&](const Field& field) { return name == field.name; });
+    return static_cast<std::size_t>(found - fields.begin());
+}
+
+ComPtr<IDemoFilter> Make(EffectId id, const Values& values) {
+    const Effect& effect = EffectOf(id);
+    Record record = effect.defaults;
+    for (const auto& [name, value] : values) record.at(FieldOf(effect, name)) = value;
+    ComPtr<IDemoFilter> filter = MakeFilter(id, [](const std::string&) {});
+    effect.Push(*filter.Get(), record, kSizes);
     return filter;
 }
 
-Pictures Render(const Row& row, const Values& values, const Pictures& frames, const AreaParams& area = kNoArea) {
-    return Through(*Make(row, 1, values, area).Get(), frames);
+Pictures Render(EffectId effect, const Values& values, const Pictures& frames) {
+    return Through(*Make(effect, values).Get(), frames);
+}
+
+Values operator+(Values a, const Values& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
 }
 
 bool Same(const Pictures& a, const Pictures& b) {
@@ -278,33 +209,36 @@ std::int64_t Distance(const Pictures& a, const Pictures& b) {
 
 TEST(DemoFilters, ChangePicturesOnlyWhileTheyAreOnAndTheSameWayEachTime) {
     const Pictures scene = MovingScene();
+    // Their defaults leave pictures as they are.
+    const std::set<EffectId> neutral = {
+        EffectId::Color, EffectId::GammaCorrection, EffectId::Mosaic, EffectId::VideoRotation};
     for (const Row& row : kRows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_TRUE(Same(Through(*Make(row, 0, row.second).Get(), scene), scene)) << "switched off";
-        const ComPtr<IDemoFilter> filter = Make(row, 1, row.second);
+        SCOPED_TRACE(EffectOf(row.effect).name);
+        EXPECT_TRUE(Same(Render(row.effect, row.second + Values{{"enabled", 0}}, scene), scene)) << "switched off";
+        const ComPtr<IDemoFilter> filter = Make(row.effect, row.second);
         const Pictures first = Through(*filter.Get(), scene);
         EXPECT_FALSE(Same(first, scene)) << "switched on";
         filter->Restart();
         EXPECT_TRUE(Same(Through(*filter.Get(), scene), first)) << "played again";
-        const Pictures byDefault = Render(row, row.defaults, scene);
-        EXPECT_EQ(Same(byDefault, scene), row.defaults == row.neutral && !row.defaults.empty()) << "at the defaults";
-        EXPECT_EQ(Same(byDefault, first), row.defaults == row.second) << "at other values";
+        const Pictures byDefault = Render(row.effect, {}, scene);
+        EXPECT_EQ(Same(byDefault, scene), neutral.contains(row.effect)) << "at the defaults";
+        EXPECT_EQ(Same(byDefault, first), row.second.empty()) << "at other values";
     }
 }
 
 TEST(DemoFilters, KeepThePictureAtNeutralValuesAndChangeItMoreWithEachStep) {
     const Pictures scene = MovingScene();
     for (const Row& row : kRows) {
-        SCOPED_TRACE(row.name);
-        const Values& neutral = row.neutral.empty() ? row.second : row.neutral;
-        EXPECT_EQ(Same(Render(row, neutral, scene), scene), !row.neutral.empty());
-        for (const auto& [place, steps] : row.growing) {
+        SCOPED_TRACE(EffectOf(row.effect).name);
+        if (!row.neutral.empty()) {
+            EXPECT_TRUE(Same(Render(row.effect, row.neutral, scene), scene));
+        }
+        for (const auto& [field, values] : row.growing) {
             std::int64_t before = -1;
-            for (const std::int32_t step : steps) {
-                Values values = row.second;
-                values[place] = step;
-                const std::int64_t distance = Distance(Render(row, values, scene), scene);
-                EXPECT_GT(distance, before) << "value " << place << " at " << step;
+            for (const std::int32_t value : values) {
+                const Pictures shown = Render(row.effect, row.second + Values{{field, value}}, scene);
+                const std::int64_t distance = Distance(shown, scene);
+                EXPECT_GT(distance, before) << field << " at " << value;
                 before = distance;
             }
         }
@@ -315,49 +249,54 @@ TEST(DemoFilters, LeaveStillPicturesAloneOrDark) {
     const Pictures still(12, Scene(4));
     const Pictures dark(12, Frame(kWidth, kHeight));
     for (const Row& row : kRows) {
-        if (row.kind != Row::Still) continue;
+        if (row.acts != Acts::OnMotion) continue;
         const bool hidesStill = row.effect == EffectId::Fire;  // By default; its second values show the background.
-        EXPECT_TRUE(Same(Render(row, row.defaults, still), hidesStill ? dark : still)) << row.name;
-        EXPECT_TRUE(Same(Render(row, row.second, still), still)) << row.name;
+        EXPECT_TRUE(Same(Render(row.effect, {}, still), hidesStill ? dark : still)) << EffectOf(row.effect).name;
+        EXPECT_TRUE(Same(Render(row.effect, row.second, still), still)) << EffectOf(row.effect).name;
     }
 }
 
 TEST(DemoFilters, ChangeNotOnePixelOutsideTheArea) {
     const Pictures scene = MovingScene();
-    for (const AreaParams& area : {AreaParams{10, 9, 71, 55, 1, {}}, AreaParams{-40, 30, 4000, 4000, 1, {}}}) {
+    for (const RECT& area : {RECT{10, 9, 71, 55}, RECT{-40, 30, 4000, 4000}}) {
+        const Values limits = {
+            {"areaEnabled", 1}, {"left", area.left}, {"top", area.top}, {"right", area.right}, {"bottom", area.bottom}};
         for (const Row& row : kRows) {
-            if (row.kind != Row::Area) continue;
-            SCOPED_TRACE(row.name);
-            Pictures shown = Render(row, row.second, scene, area);
+            const Effect& effect = EffectOf(row.effect);
+            if (FieldOf(effect, "areaEnabled") == effect.fields.size()) continue;
+            SCOPED_TRACE(effect.name);
+            Pictures shown = Render(row.effect, row.second + limits, scene);
             EXPECT_FALSE(Same(shown, scene));
+            Pictures outside = scene;
             for (std::size_t number = 0; number < scene.size(); ++number) {
-                Frame original = scene[number];
-                const RECT rect = {area.left, area.top, area.right, area.bottom};
-                for (Frame* frame : {&original, &shown[number]}) {
-                    ForEachPixel(frame->View().Part(rect), [](std::uint32_t) { return 0; });
+                for (Frame* frame : {&outside[number], &shown[number]}) {
+                    ForEachPixel(frame->View().Part(area), [](std::uint32_t) { return 0; });
                 }
-                EXPECT_EQ(shown[number].pixels, original.pixels) << "frame " << number;
             }
+            EXPECT_TRUE(Same(shown, outside));
         }
     }
 }
 
 TEST(DemoFilters, SurviveAnyValueAndAnyPicture) {
-    constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
-    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t kLeast = (std::numeric_limits<std::int32_t>::min)();
+    constexpr std::int32_t kMost = (std::numeric_limits<std::int32_t>::max)();
     for (const Row& row : kRows) {
-        SCOPED_TRACE(row.name);
+        const Effect& effect = EffectOf(row.effect);
+        SCOPED_TRACE(effect.name);
         for (const std::int32_t hostile : {kLeast, kMost, -1, 0, 1, 361, 0x10000}) {
-            // One value at a time, and all of them.
-            for (std::size_t which = 0; which <= row.second.size(); ++which) {
+            // One field at a time, and all of them; "enabled" stays on.
+            for (std::size_t which = 1; which <= effect.fields.size(); ++which) {
                 Values values = row.second;
-                for (std::size_t place = 0; place < values.size(); ++place) {
-                    if (which == place || which == values.size()) values[place] = hostile;
+                for (std::size_t place = 1; place < effect.fields.size(); ++place) {
+                    if (which == place || which == effect.fields.size()) {
+                        values.emplace_back(effect.fields[place].name, hostile);
+                    }
                 }
-                const AreaParams area = {hostile, hostile, kMost, kMost, hostile, {}};
-                const ComPtr<IDemoFilter> filter = Make(row, 1, values, area);
+                const ComPtr<IDemoFilter> filter = Make(row.effect, values);
                 // Sizes change from frame to frame, too.
-                for (const auto& [width, height] : {std::pair{33, 21}, {33, 20}, {1, 1}, {1, 40}, {40, 1}, {0, 0}}) {
+                for (const auto& [width, height] :
+                     {std::pair{33, 21}, {33, 21}, {33, 20}, {1, 1}, {1, 40}, {40, 1}, {0, 0}}) {
                     for (const unsigned number : {0U, 1U, 0xFFFFFFFFU}) {
                         Frame frame = Scene(static_cast<int>(number % 5), width, height);
                         filter->Process(frame, number);
@@ -367,10 +306,6 @@ TEST(DemoFilters, SurviveAnyValueAndAnyPicture) {
             }
         }
     }
-}
-
-const Row& Find(const std::string& name) {
-    return *std::find_if(kRows.begin(), kRows.end(), [&](const Row& row) { return row.name == name; });
 }
 
 std::string Text(const Frame& frame) {
@@ -389,59 +324,62 @@ TEST(DemoFilters, GiveTheseExactPictures) {
     };
     const Frame numbered = picture(3, {1, 2, 3, 4, 5, 6});
     const struct {
-        const char* row;
+        EffectId effect;
         Values values;
         Frame given;
         Frame expected;
     } cases[] = {
-        {"VideoRotation", {0, 0, 90}, numbered, picture(2, {4, 1, 5, 2, 6, 3})},
-        {"VideoRotation", {0, 0, 180}, numbered, picture(3, {6, 5, 4, 3, 2, 1})},
-        {"VideoRotation", {0, 0, 270}, numbered, picture(2, {3, 6, 2, 5, 1, 4})},
-        {"VideoRotation", {1, 0, 0}, numbered, picture(3, {4, 5, 6, 1, 2, 3})},
-        {"VideoRotation", {0, 1, 0}, numbered, picture(3, {3, 2, 1, 6, 5, 4})},
-        {"VideoRotation", {1, 0, 90}, numbered, picture(2, {1, 4, 2, 5, 3, 6})},
-        {"VideoRotation", {0, 0, 45}, numbered, numbered},
-        {"Mosaic",
-         {2},
+        {EffectId::VideoRotation, {{"angle", 90}}, numbered, picture(2, {4, 1, 5, 2, 6, 3})},
+        {EffectId::VideoRotation, {{"angle", 180}}, numbered, picture(3, {6, 5, 4, 3, 2, 1})},
+        {EffectId::VideoRotation, {{"angle", 270}}, numbered, picture(2, {3, 6, 2, 5, 1, 4})},
+        {EffectId::VideoRotation, {{"flip", 1}}, numbered, picture(3, {4, 5, 6, 1, 2, 3})},
+        {EffectId::VideoRotation, {{"reverse", 1}}, numbered, picture(3, {3, 2, 1, 6, 5, 4})},
+        {EffectId::VideoRotation, {{"flip", 1}, {"angle", 90}}, numbered, picture(2, {1, 4, 2, 5, 3, 6})},
+        {EffectId::VideoRotation, {{"angle", 45}}, numbered, numbered},
+        {EffectId::Mosaic,
+         {{"mosaicSize", 2}},
          picture(3, {0x10, 0x20, 0xFF0000, 0x30, 0x41, 0x010000}),
          picture(3, {0x28, 0x28, 0x800000, 0x28, 0x28, 0x800000})},
-        {"Color", {0, 0, 0, 0, 1}, picture(2, {0x123456, 0xFF00FF}), picture(2, {0xEDCBA9, 0x00FF00})},
-        {"Color",
-         {0, 0, 120, 0, 0},
+        {EffectId::Color, {{"invert", 1}}, picture(2, {0x123456, 0xFF00FF}), picture(2, {0xEDCBA9, 0x00FF00})},
+        {EffectId::Color,
+         {{"hue", 120}},
          picture(3, {0xFF0000, 0x00FF00, 0x808080}),
          picture(3, {0x00FF00, 0x0000FF, 0x808080})},
-        {"Color", {0, 0, -120, 0, 0}, picture(1, {0xFF0000}), picture(1, {0x0000FF})},
-        {"Color",
-         {0, 0, 0, -100, 0},
+        {EffectId::Color, {{"hue", -120}}, picture(1, {0xFF0000}), picture(1, {0x0000FF})},
+        {EffectId::Color,
+         {{"saturation", -100}},
          picture(3, {0xFF0000, 0x00FF00, 0x0000FF}),
          picture(3, {0x4C4C4C, 0x969696, 0x1D1D1D})},
-        {"Color", {100, 0, 0, 0, 0}, picture(1, {0x000000}), picture(1, {0xFFFFFF})},
-        {"Color", {0, -100, 0, 0, 0}, picture(2, {0x000000, 0xFFFFFF}), picture(2, {0x808080, 0x808080})},
-        {"GammaCorrection",
-         {200},
+        {EffectId::Color, {{"brightness", 100}}, picture(1, {0x000000}), picture(1, {0xFFFFFF})},
+        {EffectId::Color, {{"contrast", -100}}, picture(2, {0x000000, 0xFFFFFF}), picture(2, {0x808080, 0x808080})},
+        {EffectId::GammaCorrection,
+         {{"value", 200}},
          picture(3, {0x000000, 0x404040, 0xFFFFFF}),
          picture(3, {0x000000, 0x808080, 0xFFFFFF})},
-        {"AutoContrast", {}, picture(2, {0x404040, 0x808080}), picture(2, {0x000000, 0xFFFFFF})},
-        {"AutoIntensity", {}, picture(2, {0x204060, 0x6080A0}), picture(2, {0x004080, 0x80BFFF})},
-        {"AutoLevel", {}, picture(2, {0x204060, 0x6080A0}), picture(2, {0x000000, 0xFFFFFF})},
-        {"EdgeEnhance",
-         {1, 100},
+        {EffectId::AutoContrast, {}, picture(2, {0x404040, 0x808080}), picture(2, {0x000000, 0xFFFFFF})},
+        {EffectId::AutoIntensity, {}, picture(2, {0x204060, 0x6080A0}), picture(2, {0x004080, 0x80BFFF})},
+        {EffectId::AutoLevel, {}, picture(2, {0x204060, 0x6080A0}), picture(2, {0x000000, 0xFFFFFF})},
+        {EffectId::EdgeEnhance,
+         {},
          picture(3, {0x202020, 0x202020, 0x404040}),
          picture(3, {0x202020, 0x101010, 0x505050})},
-        {"Deblocking",
-         {0, 0, 4, 0, 4, 4},
+        {EffectId::Deblocking,
+         {{"edgeThreshold", 0}, {"blockOffsetX", 4}, {"blockWidth", 4}, {"blockHeight", 4}},
          picture(8, {0, 0, 0, 0, 0x40, 0x40, 0x40, 0x40}),
          picture(8, {0, 0, 0, 0x10, 0x30, 0x40, 0x40, 0x40})},
-        {"Deblocking",
-         {1, 64, 4, 0, 4, 4},
+        {EffectId::Deblocking,
+         {{"algorithm", 1}, {"edgeThreshold", 64}, {"blockOffsetX", 4}, {"blockWidth", 4}, {"blockHeight", 4}},
          picture(8, {0, 0, 0, 0, 0x40, 0x40, 0x40, 0x40}),
          picture(8, {0, 0, 0x08, 0x18, 0x28, 0x38, 0x40, 0x40})},
-        {"BumpMap", {135, 45, 3, 255, 1, 1, 0}, numbered, picture(3, {0, 4, 5, 0, 0, 0})},
-        {"UnsharpMask", {100, 1, 0}, picture(3, {0x30, 0x30, 0x60}), picture(3, {0x30, 0x20, 0x78})},
+        {EffectId::BumpMap,
+         {{"ambient", 255}, {"xOffset", 1}, {"yOffset", 1}},
+         numbered,
+         picture(3, {0, 4, 5, 0, 0, 0})},
+        {EffectId::UnsharpMask, {{"amount", 100}}, picture(3, {0x30, 0x30, 0x60}), picture(3, {0x30, 0x20, 0x78})},
     };
-    for (const auto& [row, values, given, expected] : cases) {
-        const Pictures shown = Render(Find(row), values, {given});
-        EXPECT_EQ(Text(shown.front()), Text(expected)) << row;
+    for (const auto& [effect, values, given, expected] : cases) {
+        const Pictures shown = Render(effect, values, {given});
+        EXPECT_EQ(Text(shown.front()), Text(expected)) << EffectOf(effect).name;
     }
 }
 
@@ -457,15 +395,15 @@ TEST(DemoFilters, CompareWithTheReferenceThatWasChosen) {
         Values values;
         std::vector<bool> seen;
     } cases[] = {
-        {"the first frame", {8, 50, 0, 1}, {false, true, true}},
-        {"the frame before", {8, 50, 0, 0}, {false, true, false}},
-        {"a black one", {8, 50, 1, 1}, {false, true, true}},
-        {"a black one, low", {8, 10, 1, 0}, {false, true, true}},
-        {"just reached", {8, 0x70, 0, 1}, {false, true, true}},
-        {"the first, high", {8, 100, 0, 1}, {false, true, true}},
+        {"the first frame", {}, {false, true, true}},
+        {"the frame before", {{"firstFrameReference", 0}}, {false, true, false}},
+        {"a black one", {{"noReference", 1}}, {false, true, true}},
+        {"a black one, low", {{"threshold", 10}, {"noReference", 1}, {"firstFrameReference", 0}}, {false, true, true}},
+        {"just reached", {{"threshold", 112}}, {false, true, true}},
+        {"the first, high", {{"threshold", 100}}, {false, true, true}},
     };
     for (const auto& [reference, values, seen] : cases) {
-        const Pictures shown = Render(Find("MotionMosaic"), values, scene);
+        const Pictures shown = Render(EffectId::MotionMosaic, values, scene);
         for (std::size_t number = 0; number < scene.size(); ++number) {
             EXPECT_EQ(shown[number].pixels != scene[number].pixels, seen[number]) << reference << ", frame " << number;
         }

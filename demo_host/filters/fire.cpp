@@ -9,6 +9,15 @@ namespace {
 
 constexpr int kStepsPerFrame = 4;
 
+struct Wind {
+    std::int32_t direction;
+    int dx;
+    int dy;
+};
+constexpr Wind kWinds[] = {
+    {kFlameNorth, 0, -1},     {kFlameSouth, 0, 1},       {kFlameEast, 1, 0},      {kFlameWest, -1, 0},
+    {kFlameNorthEast, 1, -1}, {kFlameNorthWest, -1, -1}, {kFlameSouthEast, 1, 1}, {kFlameSouthWest, -1, 1}};
+
 class CFireFilter : public CReferenceFilter<IEffectFire, IID_IEffectFire, EffectId::Fire> {
 public:
     using CReferenceFilter::CReferenceFilter;
@@ -28,9 +37,12 @@ public:
 private:
     void Render(const FrameView& frame, unsigned number) override {
         const std::vector<std::uint8_t>& motion = m_motion.Compare(frame);
-        m_columns = (frame.width + 1) / 2;
-        m_rows = (frame.height + 1) / 2;
-        m_heat.resize(static_cast<std::size_t>(m_columns) * m_rows);
+        if (m_columns != (frame.width + 1) / 2 || m_rows != (frame.height + 1) / 2) {
+            m_columns = (frame.width + 1) / 2;
+            m_rows = (frame.height + 1) / 2;
+            m_heat.clear();
+        }
+        m_heat.resize(Cell(m_columns, m_rows + 2));
         CRandom random(number);
         for (int step = 0; step < kStepsPerFrame; ++step) {
             Kindle(motion, frame);
@@ -41,7 +53,7 @@ private:
         for (int y = 0; y < frame.height; ++y) {
             for (int x = 0; x < frame.width; ++x, ++place) {
                 std::uint32_t& pixel = frame.Row(y)[x];
-                const int heat = m_heat[static_cast<std::size_t>(y / 2) * m_columns + x / 2];
+                const int heat = m_heat[Cell(x / 2, y / 2)];
                 const bool shown = m_showBackground || (motion[place] && !m_entireObject);
                 pixel = Mix(shown ? pixel : 0, palette[static_cast<std::size_t>(heat)], (std::min)(2 * heat, 256));
             }
@@ -59,45 +71,41 @@ private:
             for (int x = 0; x < m_columns; ++x) {
                 if (!moves(x, y)) continue;
                 const bool inside = moves(x - 1, y) && moves(x + 1, y) && moves(x, y - 1) && moves(x, y + 1);
-                if (m_entireObject || !inside) m_heat[static_cast<std::size_t>(y) * m_columns + x] = 255;
+                if (m_entireObject || !inside) m_heat[Cell(x, y)] = 255;
             }
         }
     }
 
     /// Each cell takes the heat of those that the flames come from, less what decays on the way.
     void Spread(CRandom& random) {
-        struct Wind {
-            std::int32_t direction;
-            int dx;
-            int dy;
-        };
-        constexpr Wind kWinds[] = {
-            {kFlameNorth, 0, -1},     {kFlameSouth, 0, 1},       {kFlameEast, 1, 0},      {kFlameWest, -1, 0},
-            {kFlameNorthEast, 1, -1}, {kFlameNorthWest, -1, -1}, {kFlameSouthEast, 1, 1}, {kFlameSouthWest, -1, 1}};
         const std::vector<std::uint8_t> before = m_heat;
-        const auto heat = [&](int x, int y) {
-            const bool inside = x >= 0 && x < m_columns && y >= 0 && y < m_rows;
-            return inside ? int{before[static_cast<std::size_t>(y) * m_columns + x]} : 0;
-        };
-        const int decay = std::clamp(m_decay, 1, 100);
         const std::int32_t directions = m_directions & kFlameGlow ? 0xFF : m_directions;
-        auto cell = m_heat.begin();
-        for (int y = 0; y < m_rows; ++y) {
-            for (int x = 0; x < m_columns; ++x, ++cell) {
-                int hottest = 0;
-                for (const auto& [direction, dx, dy] : kWinds) {
-                    if (!(directions & direction)) continue;
-                    // From up the wind and from both sides of it, so that flames flicker to a point.
-                    const int upX = x - dx;
-                    const int upY = y - dy;
-                    const int arriving = (2 * heat(upX, upY) + heat(upX - dy, upY + dx) + heat(upX + dy, upY - dx)) / 4;
-                    hottest = (std::max)(hottest, arriving);
+        std::vector<int> arriving(m_heat.size());
+        for (const auto& [direction, dx, dy] : kWinds) {
+            if (!(directions & direction)) continue;
+            // From up the wind and from both sides of it, so that flames flicker to a point.
+            const std::ptrdiff_t up = -Step(dx, dy);
+            const std::ptrdiff_t side = Step(-dy, dx);
+            for (int y = 0; y < m_rows; ++y) {
+                const std::uint8_t* from = &before[Cell(0, y)] + up;
+                int* to = &arriving[Cell(0, y)];
+                for (int x = 0; x < m_columns; ++x, ++from, ++to) {
+                    *to = (std::max)(*to, (2 * *from + from[side] + from[-side]) / 4);
                 }
-                if (hottest) hottest -= 1 + random.Below(decay + 1);
-                *cell = static_cast<std::uint8_t>((std::max)(hottest, 0));
+            }
+        }
+        const int decay = std::clamp(m_decay, 1, 100);
+        for (int y = 0; y < m_rows; ++y) {
+            for (std::size_t cell = Cell(0, y); cell < Cell(m_columns, y); ++cell) {
+                const int left = arriving[cell] ? arriving[cell] - 1 - random.Below(decay + 1) : 0;
+                m_heat[cell] = static_cast<std::uint8_t>((std::max)(left, 0));
             }
         }
     }
+
+    // A cell of heat lies over 2 x 2 pixels; a margin of two cells around them stays cold.
+    std::size_t Cell(int x, int y) const { return static_cast<std::size_t>(Step(x + 2, y + 2)); }
+    std::ptrdiff_t Step(int x, int y) const { return std::ptrdiff_t{y} * (m_columns + 4) + x; }
 
     /// From dark over a colour to a bright one; an offset of 660 gives red and yellow.
     std::array<std::uint32_t, 256> Palette() const {
@@ -119,7 +127,7 @@ private:
     std::int32_t m_gradient = 0;
     bool m_entireObject = false;
     bool m_showBackground = false;
-    int m_columns = 0;  // Of cells of heat, each over 2 x 2 pixels.
+    int m_columns = 0;  // Of cells of heat.
     int m_rows = 0;
     std::vector<std::uint8_t> m_heat;
 };

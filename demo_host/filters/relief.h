@@ -16,7 +16,11 @@ public:
         : m_width(picture.width), m_height(picture.height), m_heights(static_cast<std::size_t>(m_width) * m_height) {
         auto height = m_heights.begin();
         for (int y = 0; y < m_height; ++y) {
-            for (int x = 0; x < m_width; ++x) *height++ = static_cast<float>(Luma(picture.Row(y)[x]));
+            for (int x = 0; x < m_width; ++x) {
+                // Not Luma: whole steps would show as terraces.
+                const std::uint32_t pixel = picture.Row(y)[x];
+                *height++ = static_cast<float>(299 * Red(pixel) + 587 * Green(pixel) + 114 * Blue(pixel)) / 1000.0F;
+            }
         }
     }
     /// From left to right, between the neighbours.
