@@ -54,7 +54,8 @@ void CWaterSurface::Show(const FrameView& picture) const {
             const int fromX = std::clamp(x + slopeX, 0, picture.width - 1);
             const int fromY = std::clamp(y + slopeY, 0, picture.height - 1);
             const std::uint32_t seen = bottom.pixels[static_cast<std::size_t>(fromY) * bottom.width + fromX];
-            row[x] = PerChannel(seen, [shine = 2 * (slopeX + slopeY)](int channel) { return channel + shine; });
+            const int shine = std::clamp(2 * (slopeX + slopeY), -60, 60);
+            row[x] = PerChannel(seen, [shine](int channel) { return channel + shine; });
         }
     }
 }
