@@ -10,6 +10,7 @@
 
 #include <commctrl.h>
 
+#include "benchmarks/filters.h"
 #include "benchmarks/stub_host.h"
 #include "effect_settings/effect_settings.h"
 
@@ -169,7 +170,11 @@ void Report(const char* what, double skinned, double stock, double aim) {
 
 }  // namespace
 
-int main() {
+int main(int count, char** arguments) {
+    if (count == 2 && std::string(arguments[1]) == "--filters") {
+        MeasureFilters();
+        return 0;
+    }
     const INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&controls);
     g_hostWindow = ::CreateWindowExW(
