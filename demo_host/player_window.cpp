@@ -112,7 +112,8 @@ HWND CPlayerWindow::Open(UINT frameMs) {
     ::ShowWindow(m_window, SW_SHOWNORMAL);
     ::SetForegroundWindow(m_window);
     ::SetFocus(m_list);
-    ::SetTimer(m_window, kFrameTimer, frameMs, nullptr);
+    m_frameMs = frameMs;
+    ::SetTimer(m_window, kFrameTimer, m_frameMs, nullptr);
     return m_window;
 }
 
@@ -232,12 +233,16 @@ LRESULT CPlayerWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void CPlayerWindow::OnFrame() {
+    const DWORD started = ::GetTickCount();
     m_player.PlayNext();
     if (::GetCapture() != m_position) UpdateTime();
     const HDC dc = ::GetDC(m_window);
     DrawFrame(dc, kPicture, m_player.Picture());
     m_player.WaveForm().Draw(dc, kWave);
     ::ReleaseDC(m_window, dc);
+    // There is a pause after each frame, however long it took: a dialog is shown when its thread has nothing to do.
+    const DWORD took = ::GetTickCount() - started;
+    ::SetTimer(m_window, kFrameTimer, (std::max)(m_frameMs, took + USER_TIMER_MINIMUM) - took, nullptr);
 }
 
 void CPlayerWindow::UpdateTime() {

@@ -50,5 +50,6 @@ private:
     HWND m_settings = nullptr;
     HFONT m_font = nullptr;
     HBRUSH m_background = nullptr;
+    DWORD m_frameMs = CPlayer::kFrameMs;
     bool m_filling = true;  // The list's check marks are set, not clicked.
 };

@@ -220,6 +220,14 @@ void PaintPerson(Graphics& graphics, float turn) {
     FillBox(graphics, Color(255, 255, 255), {x - 13, 298, 26, 5});
 }
 
+/// Evening haze: nothing is quite black or white, which the automatic adjustments put right.
+void LayHaze(Frame& frame) {
+    const auto between = [](int value, int low, int high) { return low + value * (high - low) / 255; };
+    ForEachPixel(frame.View(), [&](std::uint32_t pixel) {
+        return MakePixel(between(Red(pixel), 34, 246), between(Green(pixel), 30, 232), between(Blue(pixel), 36, 216));
+    });
+}
+
 class CSceneClip : public IClip {
 public:
     CSceneClip() {
@@ -251,6 +259,7 @@ public:
         PaintKite(graphics, turn);
         PaintBall(graphics, turn);
         PaintPerson(graphics, turn);
+        LayHaze(m_frame);
         return m_frame;
     }
 
