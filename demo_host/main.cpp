@@ -41,13 +41,18 @@ constexpr char kHelp[] =
     "  --trace            print every call on host and filter\n"
     "  --help             this text";
 
-// Values at which each effect can be seen at a glance; the defaults of some change nothing.
-constexpr char kGallerySettings[] =
-    "color.hue = 100\n"
-    "color.saturation = 40\n"
-    "gamma-correction.value = 260\n"
-    "mosaic.mosaicSize = 16\n"
-    "video-rotation.angle = 180\n";
+/// Where the defaults change nothing that can be seen at a glance, what the gallery shows instead.
+constexpr struct {
+    EffectId effect;
+    const char* settings;
+} kGallery[] = {
+    {EffectId::Color, "color.hue = 100\ncolor.saturation = 40\n"},
+    {EffectId::Deblocking,  // Has something to do on a picture of blocks.
+     "mosaic.checked = 1\nmosaic.mosaicSize = 8\ndeblocking.algorithm = 1\ndeblocking.edgeThreshold = 255\n"},
+    {EffectId::GammaCorrection, "gamma-correction.value = 260\n"},
+    {EffectId::Mosaic, "mosaic.mosaicSize = 16\n"},
+    {EffectId::VideoRotation, "video-rotation.angle = 180\n"},
+};
 
 struct Options {
     const Effect* effect = nullptr;
@@ -175,20 +180,15 @@ std::optional<Session> Prepare(const Options& options) {
     }
     if (!session.clip) session.clip = MakeSceneClip();
 
-    std::string text = options.gallery.empty() ? "" : kGallerySettings;
-    std::string from = "the gallery's values";
-    if (!options.settings.empty() && FileExists(options.settings)) {
-        from = Utf8(options.settings);
-        const std::optional<std::string> read = ReadWholeFile(options.settings);
-        if (!read) {
-            Complain("can't read '" + from + "'");
-            return std::nullopt;
-        }
-        text = *read;
+    if (options.settings.empty() || !FileExists(options.settings)) return session;
+    const std::optional<std::string> text = ReadWholeFile(options.settings);
+    if (!text) {
+        Complain("can't read '" + Utf8(options.settings) + "'");
+        return std::nullopt;
     }
-    const std::string problem = ParseSettings(text, session.states);
+    const std::string problem = ParseSettings(*text, session.states);
     if (!problem.empty()) {
-        Complain(from + ", " + problem);
+        Complain(Utf8(options.settings) + ", " + problem);
         return std::nullopt;
     }
     return session;
@@ -205,13 +205,19 @@ int ShowDialog(CPlayer& player, CPlayerWindow& window, const Effect& effect, con
     return shown && (!photographer || photographer->Succeeded()) ? kExitOk : kExitFailed;
 }
 
-int WriteGallery(CPlayer& player, CPlayerWindow& window, const std::wstring& folder) {
+int WriteGallery(CPlayer& player, CPlayerWindow& window, std::vector<EffectState>& states, const std::wstring& folder) {
     ::CreateDirectoryW(folder.c_str(), nullptr);
     int exitCode = kExitOk;
     for (const Effect& effect : AllEffects()) {
         const std::string name = effect.name;
         std::printf("%2d of %d  %s  ", static_cast<int>(effect.id), static_cast<int>(kLastEffectId), effect.name);
         std::fflush(stdout);
+        states = DefaultStates();
+        for (const auto& [id, settings] : kGallery) {
+            const std::string problem = id == effect.id ? ParseSettings(settings, states) : "";
+            if (!problem.empty()) Complain("the gallery's values, " + problem);
+        }
+        player.SetChain(states);
         const std::wstring file = folder + L"\\" + std::wstring(name.begin(), name.end()) + L".png";
         if (ShowDialog(player, window, effect, file) != kExitOk) exitCode = kExitFailed;
     }
@@ -236,7 +242,7 @@ int Show(const Options& options, Session session) {
     }
     int exitCode = kExitOk;
     if (!options.gallery.empty()) {
-        exitCode = WriteGallery(*player.Get(), window, options.gallery);
+        exitCode = WriteGallery(*player.Get(), window, states, options.gallery);
     } else if (options.effect) {
         const Record& record = StateOf(states, *options.effect).record;
         PrintRecord("before", *options.effect, record);

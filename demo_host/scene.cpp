@@ -224,7 +224,7 @@ void PaintPerson(Graphics& graphics, float turn) {
 void LayHaze(Frame& frame) {
     const auto between = [](int value, int low, int high) { return low + value * (high - low) / 255; };
     ForEachPixel(frame.View(), [&](std::uint32_t pixel) {
-        return MakePixel(between(Red(pixel), 34, 246), between(Green(pixel), 30, 232), between(Blue(pixel), 36, 216));
+        return MakePixel(between(Red(pixel), 46, 240), between(Green(pixel), 42, 228), between(Blue(pixel), 50, 210));
     });
 }
 
