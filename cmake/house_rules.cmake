@@ -1,6 +1,6 @@
 # What all of our own targets are compiled with. GoogleTest is built without it.
 add_library(house_rules INTERFACE)
-target_include_directories(house_rules INTERFACE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/include)
+target_include_directories(house_rules INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 target_compile_definitions(house_rules INTERFACE UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0601)
 if(MSVC)
     target_compile_options(house_rules INTERFACE $<$<COMPILE_LANGUAGE:CXX>:/W4 /permissive- /utf-8
@@ -9,8 +9,9 @@ else()
     # COM interfaces have no virtual destructor on purpose, so -Wnon-virtual-dtor is left out.
     target_compile_options(house_rules INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Wconversion -Wshadow
                            -Wold-style-cast -Wsuggest-override
-                           -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>)
-    target_link_options(house_rules INTERFACE -static)
+                           -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
+    # No time stamp: the same sources give the same bytes.
+    target_link_options(house_rules INTERFACE -static -Wl,--no-insert-timestamp)
 endif()
 
 # A library of our own sources; the kind is STATIC or OBJECT.

@@ -1,0 +1,23 @@
+# The import libraries for both compilers, from one list of exports. In 32-bit code callers ask for the decorated name,
+# while the library exports the plain one.
+set(decoration $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>,@28,>)
+file(GENERATE OUTPUT import.def CONTENT "LIBRARY EffectSettings.dll\nEXPORTS\n    ShowSettingsDialog${decoration}\n")
+add_custom_command(TARGET EffectSettings POST_BUILD VERBATIM
+                   COMMAND ${CMAKE_DLLTOOL} --kill-at --deterministic-libraries --temp-prefix EffectSettings_import
+                           --input-def import.def --output-lib $<TARGET_LINKER_FILE:EffectSettings>)
+
+# MSVC's, wherever LLVM's tool is installed; ./package does that.
+find_program(LLVM_DLLTOOL llvm-dlltool)
+if(LLVM_DLLTOOL)
+    set(machine $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>,i386,i386:x86-64>)
+    set(EFFECT_SETTINGS_MSVC_LIB ${CMAKE_CURRENT_BINARY_DIR}/EffectSettings.lib)
+    add_custom_command(TARGET EffectSettings POST_BUILD VERBATIM BYPRODUCTS ${EFFECT_SETTINGS_MSVC_LIB}
+                       COMMAND ${LLVM_DLLTOOL} -k -m ${machine} -d import.def -l ${EFFECT_SETTINGS_MSVC_LIB})
+endif()
+
+# The symbols for debuggers, in a file that the library names. Installing strips the library itself.
+add_custom_command(TARGET EffectSettings POST_BUILD VERBATIM
+                   COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:EffectSettings>
+                           $<TARGET_FILE:EffectSettings>.debug
+                   COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=$<TARGET_FILE:EffectSettings>.debug
+                           $<TARGET_FILE:EffectSettings>)
