@@ -15,9 +15,10 @@ if(LLVM_DLLTOOL)
                        COMMAND ${LLVM_DLLTOOL} -k -m ${machine} -d import.def -l ${EFFECT_SETTINGS_MSVC_LIB})
 endif()
 
-# The symbols for debuggers, in a file that the library names. Installing strips the library itself.
+# The symbols go into a file of their own, which the library names to debuggers.
+set(objcopy ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0 ${CMAKE_OBJCOPY})  # It stamps what it writes.
 add_custom_command(TARGET EffectSettings POST_BUILD VERBATIM
-                   COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:EffectSettings>
+                   COMMAND ${objcopy} --only-keep-debug $<TARGET_FILE:EffectSettings>
                            $<TARGET_FILE:EffectSettings>.debug
-                   COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=$<TARGET_FILE:EffectSettings>.debug
+                   COMMAND ${objcopy} --strip-all --add-gnu-debuglink=$<TARGET_FILE:EffectSettings>.debug
                            $<TARGET_FILE:EffectSettings>)

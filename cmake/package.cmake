@@ -1,5 +1,8 @@
 # What the archives of ./package hold besides the library: programs, examples, documents.
-set(packaged_programs minimal_host minimal_host_c effect_settings_demo)
+set(packaged_programs minimal_host minimal_host_c effect_settings_demo EffectSettingsCheck)
+foreach(program IN LISTS packaged_programs)
+    target_link_options(${program} PRIVATE $<$<BOOL:${MINGW}>:-s>)
+endforeach()
 add_custom_target(package_files DEPENDS EffectSettings ${packaged_programs})
 install(TARGETS ${packaged_programs} RUNTIME)
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
@@ -14,7 +17,6 @@ set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION}-${package_architecture})
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_SOURCE_DIR}/dist)
 set(CPACK_VERBATIM_VARIABLES ON)
-set(CPACK_STRIP_FILES ON)
 # Two archives: one for everybody, and one with the symbols.
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)

@@ -1,0 +1,34 @@
+# Sourced by ./package --test: builds a host from each archive alone; what is for 64 bits also runs.
+install_packages "${run_packages[@]}" pkgconf
+make_prefix
+start_display
+consumer=$root/build/package-test
+rm -rf "$consumer"
+for preset in x64 x86; do
+    say "Building a host from the archive for $preset"
+    unzip -q "dist/EffectSettings-"*"-$preset.zip" -d "$consumer/$preset"
+    unpacked=$(echo "$consumer/$preset"/*)
+    built=$consumer/$preset/build
+    cp -r tests/package "$consumer/$preset/source"
+    cmake -S "$consumer/$preset/source" -B "$built" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw-$preset.cmake" -DEffectSettings_ROOT="$unpacked" \
+        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH >"$consumer/$preset.log"
+    cmake --build "$built" >>"$consumer/$preset.log" || {
+        cat "$consumer/$preset.log" >&2
+        exit 1
+    }
+    # shellcheck disable=SC2046 # They are words.
+    "$([[ $preset == x64 ]] && echo x86_64 || echo i686)-w64-mingw32-gcc" tests/package/call_from_c.c -o "$built/bin/call_by_pkgconf.exe" \
+        $(PKG_CONFIG_LIBDIR=$unpacked/lib/pkgconfig pkg-config --cflags --libs EffectSettings)
+done
+say "Running the 64-bit host and the checker"
+for program in call_from_c call_from_c_by_lib call_by_pkgconf open_all; do
+    timeout 120 scripts/run-wine "$consumer/x64/build/bin/$program.exe" || {
+        echo "$program failed." >&2
+        exit 1
+    }
+done
+timeout 300 scripts/run-wine "$consumer"/x64/EffectSettings-*/bin/EffectSettingsCheck.exe
+say "Configuring a host with the sources as a part of it"
+cmake -S "$consumer/x64/source" -B "$consumer/from-source" -G Ninja -DEFFECT_SETTINGS_SOURCE="$root" \
+    -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw-x64.cmake" >"$consumer/from-source.log"
