@@ -6,6 +6,9 @@
 
 namespace {
 
+/// What random numbers are for: each has some of its own.
+enum Purpose : unsigned { kDust, kPits, kScratches, kTrembling };
+
 /// Dust or pits.
 struct Specks {
     bool on = false;
@@ -48,8 +51,8 @@ private:
     void Render(const FrameView& frame, unsigned number) override {
         if (m_oldColor) ForEachPixel(frame, [this](std::uint32_t pixel) { return OldColor(pixel); });
         if (m_scratches) PaintScratches(frame, number);
-        PaintSpecks(frame, m_dust, 0x000000, number, 1);
-        PaintSpecks(frame, m_pits, 0x969696, number, 2);
+        PaintSpecks(frame, m_dust, 0x000000, number, kDust);
+        PaintSpecks(frame, m_pits, 0x969696, number, kPits);
     }
 
     /// A brown as bright as the chosen channel.
@@ -64,8 +67,8 @@ private:
 
     /// Lines that stay for some frames, trembling.
     void PaintScratches(const FrameView& frame, unsigned number) const {
-        CRandom place(number / 8, 3);
-        CRandom trembling(number, 4);
+        CRandom place(number / 8, kScratches);
+        CRandom trembling(number, kTrembling);
         const int most = std::clamp(m_maxScratches, 0, 100);
         const int tallest = (std::min)(std::clamp(m_scratchHeight, 1, 1600), frame.height);
         for (int count = most ? place.Between((most + 1) / 2, most) : 0; count > 0; --count) {
@@ -79,9 +82,9 @@ private:
         }
     }
 
-    /// @param purpose  Of the random numbers; dust is thin and pits are round.
+    /// Threads of dust, or round pits.
     static void PaintSpecks(const FrameView& frame, const Specks& specks, std::uint32_t original, unsigned number,
-                            unsigned purpose) {
+                            Purpose purpose) {
         CRandom random(number, purpose);
         const bool always = specks.always && !specks.random;
         if (!specks.on || (!always && random.Below(4) == 0)) return;
@@ -97,7 +100,7 @@ private:
             }
             const int x = random.Below(frame.width);
             const int y = random.Below(frame.height);
-            if (purpose == 1) {
+            if (purpose == kDust) {
                 PaintHair(frame, random, x, y, color);
             } else {
                 PaintPit(frame, x, y, random.Between(1, 3), color);

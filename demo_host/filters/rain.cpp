@@ -17,7 +17,7 @@ private:
     void Render(const FrameView& frame, unsigned number) override {
         if (!m_water.Fits(frame)) m_water.Reset(frame.width, frame.height);
         CRandom random(number);
-        // Half a drop a frame at a density of 8, more often than not at another time than the one before.
+        // A drop a frame for each 16 of the density, on the average.
         for (int chance = std::clamp(m_density, 1, 100); chance > 0; chance -= 16) {
             if (random.Below(16) < chance) {
                 m_water.Disturb(random.Below(frame.width), random.Below(frame.height), 3, 90.0F);
