@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "demo_host/device_contexts.h"
+
 namespace {
 
 constexpr std::size_t kColumns = 250;  // Hundredths of a second.
@@ -72,9 +74,7 @@ void CWaveForm::Add(std::span<const std::int16_t> before, std::span<const std::i
 void CWaveForm::Draw(HDC target, const RECT& area) const {
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
-    const HDC dc = ::CreateCompatibleDC(target);
-    const HBITMAP bitmap = ::CreateCompatibleBitmap(target, width, height);
-    const HGDIOBJ previous = ::SelectObject(dc, bitmap);
+    const CBitmapDC dc(target, width, height);
     Fill(dc, 0, 0, width, height, kBackground);
     ::SetBkMode(dc, TRANSPARENT);
     ::SetTextColor(dc, kText);
@@ -94,7 +94,4 @@ void CWaveForm::Draw(HDC target, const RECT& area) const {
         ::TextOutW(dc, 8, middle - half + 6, isAfter ? L"after" : L"before", isAfter ? 5 : 6);
     }
     ::BitBlt(target, area.left, area.top, width, height, dc, 0, 0, SRCCOPY);
-    ::SelectObject(dc, previous);
-    ::DeleteObject(bitmap);
-    ::DeleteDC(dc);
 }

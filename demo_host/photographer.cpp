@@ -1,5 +1,6 @@
 #include "demo_host/photographer.h"
 
+#include "demo_host/device_contexts.h"
 #include "demo_host/gdi_plus.h"
 #include "demo_host/messages.h"
 
@@ -13,21 +14,12 @@ bool SavePicture(HWND window, const std::wstring& file) {
     ::GetWindowRect(window, &place);
     const int width = place.right - place.left;
     const int height = place.bottom - place.top;
-    const HDC from = ::GetWindowDC(window);  // Not the screen's: that may not have caught up yet.
-    const HDC dc = ::CreateCompatibleDC(from);
-    const HBITMAP picture = ::CreateCompatibleBitmap(from, width, height);
-    const HGDIOBJ previous = ::SelectObject(dc, picture);
-    ::BitBlt(dc, 0, 0, width, height, from, 0, 0, SRCCOPY);
-    ::SelectObject(dc, previous);
-    ::DeleteDC(dc);
-    ::ReleaseDC(window, from);
-    bool saved = false;
-    {
-        Gdiplus::Bitmap bitmap(picture, nullptr);
-        saved = bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
-    }
-    ::DeleteObject(picture);
-    return saved;
+    const CWindowDC from(window, CWindowDC::Part::Whole);  // Not the screen's: that may not have caught up yet.
+    CBitmapDC copy(from, width, height);
+    ::BitBlt(copy, 0, 0, width, height, from, 0, 0, SRCCOPY);
+    const GdiOwner<HBITMAP> picture = copy.Take();
+    Gdiplus::Bitmap bitmap(picture.get(), nullptr);
+    return bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }
 
 }  // namespace

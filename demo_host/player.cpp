@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "demo_host/device_contexts.h"
 #include "demo_host/trace.h"
 
 namespace {
@@ -93,13 +94,12 @@ void CPlayer::ProcessSound() {
 void CPlayer::DrawPreview() const {
     RECT area;
     ::GetClientRect(m_previewWindow, &area);
-    const HDC dc = ::GetDC(m_previewWindow);
+    const CWindowDC dc(m_previewWindow);
     if (m_showPicture) {
         DrawFrame(dc, area, m_frame);
     } else {
         m_wave.Draw(dc, area);  // A sound's dialog switches the picture off.
     }
-    ::ReleaseDC(m_previewWindow, dc);
 }
 
 void CPlayer::RestartFilters() {

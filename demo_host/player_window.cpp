@@ -12,7 +12,7 @@ namespace {
 
 constexpr UINT_PTR kFrameTimer = 1;
 constexpr wchar_t kWindowClass[] = L"EffectSettingsDemo";
-enum : UINT { kPlayId = 1, kPositionId, kTimeId, kListId, kSettingsId };
+enum : UINT { kPlayId = 100, kPositionId, kTimeId, kListId, kSettingsId };
 
 constexpr COLORREF kBackground = RGB(32, 36, 43);
 constexpr COLORREF kPanel = RGB(24, 27, 33);
@@ -88,8 +88,6 @@ CPlayerWindow::CPlayerWindow(CPlayer& player, std::vector<EffectState>& states, 
 
 CPlayerWindow::~CPlayerWindow() {
     if (m_window) ::DestroyWindow(m_window);
-    ::DeleteObject(m_font);
-    ::DeleteObject(m_background);
 }
 
 HWND CPlayerWindow::Open(UINT frameMs) {
@@ -118,23 +116,24 @@ HWND CPlayerWindow::Open(UINT frameMs) {
 }
 
 bool CPlayerWindow::CreateControls() {
-    m_play =
-        CreateChild(m_window, kPlayId, WC_BUTTONW, L"Pause", BS_OWNERDRAW | WS_TABSTOP, {12, 440, 56, 472}, m_font);
+    m_play = CreateChild(
+        m_window, kPlayId, WC_BUTTONW, L"Pause", BS_OWNERDRAW | WS_TABSTOP, {12, 440, 56, 472}, m_font.get());
     m_position = CreateChild(m_window, kPositionId, TRACKBAR_CLASSW, L"Position",
-                             TBS_HORZ | TBS_NOTICKS | TBS_BOTH | WS_TABSTOP, {64, 444, 478, 468}, m_font);
-    m_time = CreateChild(m_window, kTimeId, WC_STATICW, L"", SS_RIGHT, {480, 449, 570, 467}, m_font);
-    m_list =
-        CreateChild(m_window, kListId, WC_LISTVIEWW, L"Effects",
-                    LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP, kList, m_font);
-    m_settings = CreateChild(
-        m_window, kSettingsId, WC_BUTTONW, L"&Settings...", BS_OWNERDRAW | WS_TABSTOP, {584, 566, 816, 598}, m_font);
+                             TBS_HORZ | TBS_NOTICKS | TBS_BOTH | WS_TABSTOP, {64, 444, 478, 468}, m_font.get());
+    m_time = CreateChild(m_window, kTimeId, WC_STATICW, L"", SS_RIGHT, {480, 449, 570, 467}, m_font.get());
+    m_list = CreateChild(
+        m_window, kListId, WC_LISTVIEWW, L"Effects",
+        LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS | WS_TABSTOP, kList, m_font.get());
+    m_settings = CreateChild(m_window, kSettingsId, WC_BUTTONW, L"&Settings...", BS_OWNERDRAW | WS_TABSTOP,
+                             {584, 566, 816, 598}, m_font.get());
     if (!m_play || !m_position || !m_time || !m_list || !m_settings) return false;
     ::SendMessageW(m_position, TBM_SETRANGEMAX, FALSE, static_cast<LPARAM>(m_player.Milliseconds()));
     ::SendMessageW(m_position, TBM_SETPAGESIZE, 0, 1000);
 
     ListView_SetExtendedListViewStyle(m_list, LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
     // A row is as high as the marks in front of it.
-    ListView_SetImageList(m_list, ::ImageList_Create(kRowHeight, kRowHeight, ILC_COLOR32, 3, 0), LVSIL_STATE);
+    const HIMAGELIST marks = ::ImageList_Create(kRowHeight, kRowHeight, ILC_COLOR32, 3, 0);
+    ::ImageList_Destroy(ListView_SetImageList(m_list, marks, LVSIL_STATE));
     ListView_SetBkColor(m_list, kPanel);
     LVCOLUMNW column{};
     column.mask = LVCF_WIDTH;
@@ -215,7 +214,7 @@ LRESULT CPlayerWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CTLCOLORSTATIC:
             ::SetTextColor(reinterpret_cast<HDC>(wParam), kText);
             ::SetBkColor(reinterpret_cast<HDC>(wParam), kBackground);
-            return reinterpret_cast<LRESULT>(m_background);
+            return reinterpret_cast<LRESULT>(m_background.get());
         case WM_ERASEBKGND:
             return 1;
         case WM_PAINT:
@@ -236,10 +235,9 @@ void CPlayerWindow::OnFrame() {
     const DWORD started = ::GetTickCount();
     m_player.PlayNext();
     if (::GetCapture() != m_position) UpdateTime();
-    const HDC dc = ::GetDC(m_window);
+    const CWindowDC dc(m_window);
     DrawFrame(dc, kPicture, m_player.Picture());
     m_player.WaveForm().Draw(dc, kWave);
-    ::ReleaseDC(m_window, dc);
     // There is a pause after each frame, however long it took: a dialog is shown when its thread has nothing to do.
     const DWORD took = ::GetTickCount() - started;
     ::SetTimer(m_window, kFrameTimer, (std::max)(m_frameMs, took + USER_TIMER_MINIMUM) - took, nullptr);
@@ -276,6 +274,7 @@ LRESULT CPlayerWindow::OnNotify(const NMHDR& header) {
         const auto place = static_cast<std::size_t>(item.iItem);
         if (item.iItem >= 0 && checked != m_states[place].checked) {
             m_states[place].checked = checked;
+            ListView_SetItemState(m_list, item.iItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
             m_player.SetChain(m_states);
             m_onChange();
         }
@@ -295,7 +294,7 @@ LRESULT CPlayerWindow::DrawListItem(const NMLVCUSTOMDRAW& item) const {
     DrawCheckMark(dc, rect.left + 5, rect.top + 2, ListView_GetCheckState(m_list, row) != FALSE);
     rect.left += kRowHeight + 8;
     const std::wstring title = AllEffects()[static_cast<std::size_t>(row)].Title();
-    ::SelectObject(dc, m_font);
+    ::SelectObject(dc, m_font.get());
     ::SetBkMode(dc, TRANSPARENT);
     ::SetTextColor(dc, kText);
     ::DrawTextW(dc, title.c_str(), -1, &rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
@@ -345,7 +344,7 @@ void CPlayerWindow::DrawButton(const DRAWITEMSTRUCT& item) const {
     }
     wchar_t label[32] = L"";
     ::GetWindowTextW(item.hwndItem, label, static_cast<int>(std::size(label)));
-    ::SelectObject(item.hDC, m_font);
+    ::SelectObject(item.hDC, m_font.get());
     ::SetBkMode(item.hDC, TRANSPARENT);
     ::SetTextColor(item.hDC, kText);
     ::DrawTextW(item.hDC, label, -1, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
@@ -358,7 +357,7 @@ void CPlayerWindow::OnPaint() {
     ::GetClientRect(m_window, &client);
     const int saved = ::SaveDC(dc);
     for (const RECT& own : {kPicture, kWave}) ::ExcludeClipRect(dc, own.left, own.top, own.right, own.bottom);
-    ::FillRect(dc, &client, m_background);
+    ::FillRect(dc, &client, m_background.get());
     ::RestoreDC(dc, saved);
     DrawFrame(dc, kPicture, m_player.Picture());
     m_player.WaveForm().Draw(dc, kWave);

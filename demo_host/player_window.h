@@ -8,6 +8,7 @@
 
 #include <commctrl.h>
 
+#include "demo_host/device_contexts.h"
 #include "demo_host/player.h"
 
 class CPlayerWindow {
@@ -48,8 +49,8 @@ private:
     HWND m_time = nullptr;
     HWND m_list = nullptr;
     HWND m_settings = nullptr;
-    HFONT m_font = nullptr;
-    HBRUSH m_background = nullptr;
+    GdiOwner<HFONT> m_font;
+    GdiOwner<HBRUSH> m_background;
     DWORD m_frameMs = CPlayer::kFrameMs;
     bool m_filling = true;  // The list's check marks are set, not clicked.
 };
