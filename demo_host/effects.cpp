@@ -7,6 +7,7 @@
 
 #include "demo_host/com_object.h"
 #include "effect_settings/effect_filters.h"
+#include "effect_settings/preview_host.h"
 
 namespace {
 
@@ -62,9 +63,9 @@ Record ToRecord(const Settings& settings) {
     return {fields.begin(), fields.end()};
 }
 
-template <typename Settings>
-Effect Describe(const char* name, const CLSID& filterClass, const IID& properties, std::vector<Field> fields,
-                decltype(Effect::putAll) putAll = nullptr) {
+template <typename Settings, typename Interface>
+Effect Describe(const char* name, std::vector<Field> fields, decltype(Effect::putAll) putAll = nullptr) {
+    using Ids = effect_settings::FilterIds<Interface>;
     const auto show = [](IMediaHost* host, const Sizes& sizes, Record& record) {
         auto settings = FromRecord<Settings>(record);
         const effect_settings::Result result = effect_settings::ShowSettings(host, sizes.video, sizes.frame, settings);
@@ -73,8 +74,8 @@ Effect Describe(const char* name, const CLSID& filterClass, const IID& propertie
     };
     return {effect_settings::EffectOf<Settings>::kId,
             name,
-            filterClass,
-            properties,
+            Ids::Class(),
+            Ids::Interface(),
             std::move(fields),
             ToRecord(Settings{}),
             show,
@@ -217,34 +218,32 @@ void Effect::Push(IUnknown& filter, const Record& record, const Sizes& sizes) co
 
 const std::vector<Effect>& AllEffects() {
     static const std::vector<Effect> effects = {
-        Describe<AutoContrastSettings>("auto-contrast", CLSID_EffectAutoContrast, IID_IEffectAutoContrast, {kEnabled}),
-        Describe<AutoIntensitySettings>(
-            "auto-intensity", CLSID_EffectAutoIntensity, IID_IEffectAutoIntensity, {kEnabled}),
-        Describe<AutoLevelSettings>("auto-level", CLSID_EffectAutoLevel, IID_IEffectAutoLevel, {kEnabled}),
-        Describe<BrightnessSettings>(
-            "brightness", CLSID_EffectBrightness, IID_IEffectBrightness,
-            {kEnabled, Switch<&IEffectBrightness::put_FirstFrameReference>("firstFrameReference"),
-             Number<&IEffectBrightness::put_Threshold>("threshold", 1, 100),
-             Number<&IEffectBrightness::put_Brightness>("brightness", -1000, 1000)}),
-        Describe<ColorSettings>(
-            "color", CLSID_EffectColor, IID_IEffectColor,
+        Describe<AutoContrastSettings, IEffectAutoContrast>("auto-contrast", {kEnabled}),
+        Describe<AutoIntensitySettings, IEffectAutoIntensity>("auto-intensity", {kEnabled}),
+        Describe<AutoLevelSettings, IEffectAutoLevel>("auto-level", {kEnabled}),
+        Describe<BrightnessSettings, IEffectBrightness>(
+            "brightness", {kEnabled, Switch<&IEffectBrightness::put_FirstFrameReference>("firstFrameReference"),
+                           Number<&IEffectBrightness::put_Threshold>("threshold", 1, 100),
+                           Number<&IEffectBrightness::put_Brightness>("brightness", -1000, 1000)}),
+        Describe<ColorSettings, IEffectColor>(
+            "color",
             {kEnabled, Field{"invert", 0, 1}, kAreaEnabled, Field{"hue", -180, 180}, Field{"saturation", -100, 100},
              Field{"brightness", -100, 100}, Field{"contrast", -100, 100}, kLeft, kTop, kRight, kBottom},
             PutColor),
-        Describe<DeblockingSettings>(
-            "deblocking", CLSID_EffectDeblocking, IID_IEffectDeblocking,
+        Describe<DeblockingSettings, IEffectDeblocking>(
+            "deblocking",
             {kEnabled, Number<&IEffectDeblocking::put_Algorithm>("algorithm", 0, 1),
              Number<&IEffectDeblocking::put_EdgeThreshold>("edgeThreshold", 0, 255),
              Field{"blockOffsetX", kLowest, kHighest, Set<&IEffectDeblocking::put_BlockOffsetX>, Unit::PixelsAcross},
              Field{"blockOffsetY", kLowest, kHighest, Set<&IEffectDeblocking::put_BlockOffsetY>, Unit::PixelsDown},
              Field{"blockWidth", kLowest, kHighest, Set<&IEffectDeblocking::put_BlockWidth>, Unit::PixelsAcross},
              Field{"blockHeight", kLowest, kHighest, Set<&IEffectDeblocking::put_BlockHeight>, Unit::PixelsDown}}),
-        Describe<EdgeEnhanceSettings>("edge-enhance", CLSID_EffectEdgeEnhance, IID_IEffectEdgeEnhance,
-                                      {Switch<&IEffectEdgeEnhance::put_Enable>("enabled"),
-                                       Switch<&IEffectEdgeEnhance::put_EnableMultiplier>("multiplierEnabled"),
-                                       Number<&IEffectEdgeEnhance::put_Multiplier>("multiplier", 50, 1000)}),
-        Describe<AgingSettings>(
-            "aging", CLSID_EffectAging, IID_IEffectAging,
+        Describe<EdgeEnhanceSettings, IEffectEdgeEnhance>(
+            "edge-enhance", {Switch<&IEffectEdgeEnhance::put_Enable>("enabled"),
+                             Switch<&IEffectEdgeEnhance::put_EnableMultiplier>("multiplierEnabled"),
+                             Number<&IEffectEdgeEnhance::put_Multiplier>("multiplier", 50, 1000)}),
+        Describe<AgingSettings, IEffectAging>(
+            "aging",
             {kEnabled,
              Switch<&IEffectAging::put_AreaEnable>("areaEnabled"),
              kLeft,
@@ -270,21 +269,20 @@ const std::vector<Effect>& AllEffects() {
              Number<&IEffectAging::put_PitsDensity>("pitsDensity", 0, 100),
              Field{"pitsColorMode", kLowest, kHighest, SetChoice<&IEffectAging::put_PitsColorMode, 3>},
              Number<&IEffectAging::put_PitsColor>("pitsColor", 0, 0xFFFFFF)}),
-        Describe<BumpMapSettings>(
-            "bump-map", CLSID_EffectBumpMap, IID_IEffectBumpMap,
-            {kEnabled, Number<&IEffectBumpMap::put_LightAngle>("lightAngle", 0, 360),
-             Number<&IEffectBumpMap::put_Elevation>("elevation", 0, 90),
-             Number<&IEffectBumpMap::put_Depth>("depth", 1, 65),
-             Number<&IEffectBumpMap::put_Ambient>("ambient", 0, 255),
-             Number<&IEffectBumpMap::put_XOffset>("xOffset", kLowest, kHighest),
-             Number<&IEffectBumpMap::put_YOffset>("yOffset", kLowest, kHighest),
-             Switch<&IEffectBumpMap::put_Invert>("invert"), kAreaEnabled, kLeft, kTop, kRight, kBottom}),
-        Describe<DizzySettings>("dizzy", CLSID_EffectDizzy, IID_IEffectDizzy,
-                                {kEnabled, Number<&IEffectDizzy::put_ZoomLevel>("zoomLevel", 0, 1000),
-                                 Number<&IEffectDizzy::put_RotationSpeed>("rotationSpeed", 0, 1000), kAreaEnabled,
-                                 kLeft, kTop, kRight, kBottom}),
-        Describe<FireSettings>(
-            "fire", CLSID_EffectFire, IID_IEffectFire,
+        Describe<BumpMapSettings, IEffectBumpMap>(
+            "bump-map", {kEnabled, Number<&IEffectBumpMap::put_LightAngle>("lightAngle", 0, 360),
+                         Number<&IEffectBumpMap::put_Elevation>("elevation", 0, 90),
+                         Number<&IEffectBumpMap::put_Depth>("depth", 1, 65),
+                         Number<&IEffectBumpMap::put_Ambient>("ambient", 0, 255),
+                         Number<&IEffectBumpMap::put_XOffset>("xOffset", kLowest, kHighest),
+                         Number<&IEffectBumpMap::put_YOffset>("yOffset", kLowest, kHighest),
+                         Switch<&IEffectBumpMap::put_Invert>("invert"), kAreaEnabled, kLeft, kTop, kRight, kBottom}),
+        Describe<DizzySettings, IEffectDizzy>(
+            "dizzy", {kEnabled, Number<&IEffectDizzy::put_ZoomLevel>("zoomLevel", 0, 1000),
+                      Number<&IEffectDizzy::put_RotationSpeed>("rotationSpeed", 0, 1000), kAreaEnabled, kLeft, kTop,
+                      kRight, kBottom}),
+        Describe<FireSettings, IEffectFire>(
+            "fire",
             {kEnabled, Number<&IEffectFire::put_GradientLevel>("gradientLevel", 0, 100),
              Number<&IEffectFire::put_ColorsOffset>("colorsOffset", 0, 1000),
              Number<&IEffectFire::put_Decay>("decay", 1, 100), Number<&IEffectFire::put_Threshold>("threshold", 1, 100),
@@ -293,38 +291,36 @@ const std::vector<Effect>& AllEffects() {
              Switch<&IEffectFire::put_ShowBackground>("showBackground"),
              Switch<&IEffectFire::put_NoReference>("noReference"),
              Switch<&IEffectFire::put_FirstFrameReference>("firstFrameReference")}),
-        Describe<GlassTileSettings>(
-            "glass-tile", CLSID_EffectGlassTile, IID_IEffectGlassTile,
-            {kEnabled, Number<&IEffectGlassTile::put_TileWidth>("tileWidth", 2, 50),
-             Number<&IEffectGlassTile::put_TileHeight>("tileHeight", 2, 50),
-             Number<&IEffectGlassTile::put_Refraction>("refraction", 2, 10), kAreaEnabled, kLeft, kTop, kRight,
-             kBottom}),
-        Describe<HologramSettings>(
-            "hologram", CLSID_EffectHologram, IID_IEffectHologram,
-            {kEnabled, Number<&IEffectHologram::put_Hue>("hue", 0, 360),
-             Number<&IEffectHologram::put_Noise>("noise", 1, 100),
-             Number<&IEffectHologram::put_Threshold>("threshold", 1, 100),
-             Switch<&IEffectHologram::put_LineNoise>("lineNoise"),
-             Switch<&IEffectHologram::put_NoReference>("noReference"),
-             Switch<&IEffectHologram::put_FirstFrameReference>("firstFrameReference")}),
-        Describe<LensSettings>("lens", CLSID_EffectLens, IID_IEffectLens,
-                               {kEnabled, Number<&IEffectLens::put_Refraction>("refraction", 10, 160),
-                                Switch<&IEffectLens::put_KeepSurroundings>("keepSurroundings"), kAreaEnabled, kLeft,
-                                kTop, kRight, kBottom}),
-        Describe<LightningSettings>("lightning", CLSID_EffectLightning, IID_IEffectLightning,
-                                    {kEnabled, Number<&IEffectLightning::put_Threshold>("threshold", 1, 100),
-                                     Switch<&IEffectLightning::put_NoReference>("noReference"),
-                                     Switch<&IEffectLightning::put_FirstFrameReference>("firstFrameReference")}),
-        Describe<MazeSettings>(
-            "maze", CLSID_EffectMaze, IID_IEffectMaze,
+        Describe<GlassTileSettings, IEffectGlassTile>(
+            "glass-tile", {kEnabled, Number<&IEffectGlassTile::put_TileWidth>("tileWidth", 2, 50),
+                           Number<&IEffectGlassTile::put_TileHeight>("tileHeight", 2, 50),
+                           Number<&IEffectGlassTile::put_Refraction>("refraction", 2, 10), kAreaEnabled, kLeft, kTop,
+                           kRight, kBottom}),
+        Describe<HologramSettings, IEffectHologram>(
+            "hologram", {kEnabled, Number<&IEffectHologram::put_Hue>("hue", 0, 360),
+                         Number<&IEffectHologram::put_Noise>("noise", 1, 100),
+                         Number<&IEffectHologram::put_Threshold>("threshold", 1, 100),
+                         Switch<&IEffectHologram::put_LineNoise>("lineNoise"),
+                         Switch<&IEffectHologram::put_NoReference>("noReference"),
+                         Switch<&IEffectHologram::put_FirstFrameReference>("firstFrameReference")}),
+        Describe<LensSettings, IEffectLens>(
+            "lens", {kEnabled, Number<&IEffectLens::put_Refraction>("refraction", 10, 160),
+                     Switch<&IEffectLens::put_KeepSurroundings>("keepSurroundings"), kAreaEnabled, kLeft, kTop, kRight,
+                     kBottom}),
+        Describe<LightningSettings, IEffectLightning>(
+            "lightning", {kEnabled, Number<&IEffectLightning::put_Threshold>("threshold", 1, 100),
+                          Switch<&IEffectLightning::put_NoReference>("noReference"),
+                          Switch<&IEffectLightning::put_FirstFrameReference>("firstFrameReference")}),
+        Describe<MazeSettings, IEffectMaze>(
+            "maze",
             {kEnabled, Number<&IEffectMaze::put_Divisions>("divisions", 0, 64),
              Number<&IEffectMaze::put_BreakKind>("breakKind", 0, 1), kAreaEnabled, kLeft, kTop, kRight, kBottom}),
-        Describe<MotionBlurSettings>("motion-blur", CLSID_EffectMotionBlur, IID_IEffectMotionBlur,
-                                     {kEnabled, Number<&IEffectMotionBlur::put_Hue>("hue", 0, 360),
-                                      Number<&IEffectMotionBlur::put_Threshold>("threshold", 1, 100),
-                                      Number<&IEffectMotionBlur::put_IntervalFrames>("intervalFrames", 1, 200)}),
-        Describe<MotionEmbossSettings>(
-            "motion-emboss", CLSID_EffectMotionEmboss, IID_IEffectMotionEmboss,
+        Describe<MotionBlurSettings, IEffectMotionBlur>(
+            "motion-blur", {kEnabled, Number<&IEffectMotionBlur::put_Hue>("hue", 0, 360),
+                            Number<&IEffectMotionBlur::put_Threshold>("threshold", 1, 100),
+                            Number<&IEffectMotionBlur::put_IntervalFrames>("intervalFrames", 1, 200)}),
+        Describe<MotionEmbossSettings, IEffectMotionEmboss>(
+            "motion-emboss",
             {kEnabled, Number<&IEffectMotionEmboss::put_LightAngle>("lightAngle", 0, 360),
              Number<&IEffectMotionEmboss::put_Elevation>("elevation", 0, 180),
              Number<&IEffectMotionEmboss::put_Depth>("depth", 1, 100),
@@ -332,49 +328,44 @@ const std::vector<Effect>& AllEffects() {
              Switch<&IEffectMotionEmboss::put_BumpMap>("bumpMap"),
              Switch<&IEffectMotionEmboss::put_NoReference>("noReference"),
              Switch<&IEffectMotionEmboss::put_FirstFrameReference>("firstFrameReference")}),
-        Describe<MotionMosaicSettings>(
-            "motion-mosaic", CLSID_EffectMotionMosaic, IID_IEffectMotionMosaic,
-            {kEnabled, Number<&IEffectMotionMosaic::put_SquareSize>("squareSize", 1, 64),
-             Number<&IEffectMotionMosaic::put_Threshold>("threshold", 1, 100),
-             Switch<&IEffectMotionMosaic::put_NoReference>("noReference"),
-             Switch<&IEffectMotionMosaic::put_FirstFrameReference>("firstFrameReference")}),
-        Describe<MotionScanSettings>("motion-scan", CLSID_EffectMotionScan, IID_IEffectMotionScan,
-                                     {kEnabled, Switch<&IEffectMotionScan::put_ShowScanLine>("showScanLine"),
-                                      Number<&IEffectMotionScan::put_LineIncrement>("lineIncrement", kLowest, kHighest),
-                                      kAreaEnabled, kLeft, kTop, kRight, kBottom}),
-        Describe<ParticlesSettings>("particles", CLSID_EffectParticles, IID_IEffectParticles,
-                                    {kEnabled, Number<&IEffectParticles::put_Distortion>("value", 1, 6)}),
-        Describe<RainSettings>(
-            "rain", CLSID_EffectRain, IID_IEffectRain,
-            {kEnabled, Switch<&IEffectRain::put_CustomRainDrops>("customRainDrops"),
-             Number<&IEffectRain::put_WaveSpeed>("waveSpeed", 1, 10),
-             Number<&IEffectRain::put_Density>("density", 1, 100), kAreaEnabled, kLeft, kTop, kRight, kBottom}),
-        Describe<StreakSettings>("streak", CLSID_EffectStreak, IID_IEffectStreak,
-                                 {kEnabled, Switch<&IEffectStreak::put_HeavyMode>("heavyMode")}),
-        Describe<WaveSettings>("wave", CLSID_EffectWave, IID_IEffectWave,
-                               {kEnabled, Number<&IEffectWave::put_WaveSpeed>("waveSpeed", 1, 10),
-                                Number<&IEffectWave::put_Threshold>("threshold", 1, 100)}),
-        Describe<EmbossSettings>(
-            "emboss", CLSID_EffectEmboss, IID_IEffectEmboss,
+        Describe<MotionMosaicSettings, IEffectMotionMosaic>(
+            "motion-mosaic", {kEnabled, Number<&IEffectMotionMosaic::put_SquareSize>("squareSize", 1, 64),
+                              Number<&IEffectMotionMosaic::put_Threshold>("threshold", 1, 100),
+                              Switch<&IEffectMotionMosaic::put_NoReference>("noReference"),
+                              Switch<&IEffectMotionMosaic::put_FirstFrameReference>("firstFrameReference")}),
+        Describe<MotionScanSettings, IEffectMotionScan>(
+            "motion-scan", {kEnabled, Switch<&IEffectMotionScan::put_ShowScanLine>("showScanLine"),
+                            Number<&IEffectMotionScan::put_LineIncrement>("lineIncrement", kLowest, kHighest),
+                            kAreaEnabled, kLeft, kTop, kRight, kBottom}),
+        Describe<ParticlesSettings, IEffectParticles>(
+            "particles", {kEnabled, Number<&IEffectParticles::put_Distortion>("value", 1, 6)}),
+        Describe<RainSettings, IEffectRain>(
+            "rain", {kEnabled, Switch<&IEffectRain::put_CustomRainDrops>("customRainDrops"),
+                     Number<&IEffectRain::put_WaveSpeed>("waveSpeed", 1, 10),
+                     Number<&IEffectRain::put_Density>("density", 1, 100), kAreaEnabled, kLeft, kTop, kRight, kBottom}),
+        Describe<StreakSettings, IEffectStreak>(
+            "streak", {kEnabled, Switch<&IEffectStreak::put_HeavyMode>("heavyMode")}),
+        Describe<WaveSettings, IEffectWave>("wave", {kEnabled, Number<&IEffectWave::put_WaveSpeed>("waveSpeed", 1, 10),
+                                                     Number<&IEffectWave::put_Threshold>("threshold", 1, 100)}),
+        Describe<EmbossSettings, IEffectEmboss>(
+            "emboss",
             {kEnabled, Field{"lightAngle", 0, 360}, Field{"elevation", 0, 180}, Field{"depth", 1, 100},
              Field{"emboss", 0, 1}, kAreaEnabled, kLeft, kTop, kRight, kBottom},
             PutEmboss),
-        Describe<GammaCorrectionSettings>("gamma-correction", CLSID_EffectGammaCorrection, IID_IEffectGammaCorrection,
-                                          {kEnabled, Field{"value", 1, 500}}, PutGamma),
-        Describe<MosaicSettings>(
-            "mosaic", CLSID_EffectMosaic, IID_IEffectMosaic,
-            {kEnabled, Field{"mosaicSize", 1, 64}, kAreaEnabled, kLeft, kTop, kRight, kBottom}, PutMosaic),
-        Describe<UnsharpMaskSettings>(
-            "unsharp-mask", CLSID_EffectUnsharpMask, IID_IEffectUnsharpMask,
-            {Switch<&IEffectUnsharpMask::put_Enable>("enabled"),
-             Number<&IEffectUnsharpMask::put_Amount>("amount", 0, 500),
-             Number<&IEffectUnsharpMask::put_Radius>("radius", 1, 100),
-             Number<&IEffectUnsharpMask::put_Threshold>("threshold", 0, 255)}),
-        Describe<VideoRotationSettings>(
-            "video-rotation", CLSID_EffectVideoRotation, IID_IEffectVideoRotation,
-            {kEnabled, Field{"reverse", 0, 1}, Field{"flip", 0, 1}, Field{"angle", 0, 270}}, PutRotation),
-        Describe<AudioChorusSettings>(
-            "audio-chorus", CLSID_EffectAudioChorus, IID_IEffectAudioChorus,
+        Describe<GammaCorrectionSettings, IEffectGammaCorrection>(
+            "gamma-correction", {kEnabled, Field{"value", 1, 500}}, PutGamma),
+        Describe<MosaicSettings, IEffectMosaic>(
+            "mosaic", {kEnabled, Field{"mosaicSize", 1, 64}, kAreaEnabled, kLeft, kTop, kRight, kBottom}, PutMosaic),
+        Describe<UnsharpMaskSettings, IEffectUnsharpMask>(
+            "unsharp-mask", {Switch<&IEffectUnsharpMask::put_Enable>("enabled"),
+                             Number<&IEffectUnsharpMask::put_Amount>("amount", 0, 500),
+                             Number<&IEffectUnsharpMask::put_Radius>("radius", 1, 100),
+                             Number<&IEffectUnsharpMask::put_Threshold>("threshold", 0, 255)}),
+        Describe<VideoRotationSettings, IEffectVideoRotation>(
+            "video-rotation", {kEnabled, Field{"reverse", 0, 1}, Field{"flip", 0, 1}, Field{"angle", 0, 270}},
+            PutRotation),
+        Describe<AudioChorusSettings, IEffectAudioChorus>(
+            "audio-chorus",
             {kEnabled, Field{"combineWetDry", 0, 1}, Field{"dryMix", -100, 100}, Field{"wetMix", -100, 100},
              Field{"delay", 0, 500}, Field{"feedback", -100, 100}, Field{"stereo", 0, 180}},
             PutChorus),
