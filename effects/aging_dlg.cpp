@@ -299,4 +299,7 @@ class CAgingDlg : public CAreaDlg<EffectId::Aging> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Aging>::kInfo = {
+    L"Aging Settings", 800, 630,
+    L"Enable Video Aging Effect, will gives the video the look and feel of an old style movie."};
 std::unique_ptr<CDialog> MakeAgingDlg() { return std::make_unique<CAgingDlg>(); }

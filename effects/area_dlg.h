@@ -8,8 +8,8 @@
 
 /// What a filter with one setter per edge gets for an area that is not valid.
 enum class InvalidArea {
-    ReplaceThenConvert,  ///< The default area, converted to frame pixels like any other.
-    SendAsIs,            ///< The default area's numbers as they are, and left first.
+    ReplaceThenConvert,  ///< A valid area, converted to frame pixels like any other.
+    SendAsIs,            ///< A valid area's numbers as they are, and left first.
 };
 
 /// When such a filter gets the area's switch.
@@ -22,7 +22,7 @@ protected:
     using typename CEffectDlg<Id>::Settings;
 
     /// The record's area is mended here, before anything is shown. Sliders have the preview panel's usual id.
-    CAreaDlg() : CEffectDlg<Id>({.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {
+    CAreaDlg() : CEffectDlg<Id>({.firstSync = FirstSync::BeforeAttach, .previewId = 21, .titleHasSize = true}) {
         StoreEdges(ClampEffectArea(EdgesOf(*this->m_settings), VideoSize()));
     }
 
@@ -73,7 +73,7 @@ protected:
     /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
     AreaParams AreaStructure() const {
         const RECT typed = m_area.Typed();
-        const RECT edges = InFrame(IsValid(typed) ? typed : kDefaultEffectArea);
+        const RECT edges = InFrame(IsValid(typed) ? typed : kValidEffectArea);
         return {edges.left, edges.top, edges.right, edges.bottom, m_area.IsOn(), {0, 0, 1, 1, 0}};
     }
 
@@ -86,16 +86,16 @@ protected:
             this->Put(&Filter::put_AreaEnable, on);
         }
         if (valid || invalid == InvalidArea::ReplaceThenConvert) {
-            const RECT edges = InFrame(valid ? typed : kDefaultEffectArea);
+            const RECT edges = InFrame(valid ? typed : kValidEffectArea);
             this->Put(&Filter::put_AreaRight, edges.right);
             this->Put(&Filter::put_AreaBottom, edges.bottom);
             this->Put(&Filter::put_AreaLeft, edges.left);
             this->Put(&Filter::put_AreaTop, edges.top);
         } else {
-            this->Put(&Filter::put_AreaLeft, kDefaultEffectArea.left);
-            this->Put(&Filter::put_AreaTop, kDefaultEffectArea.top);
-            this->Put(&Filter::put_AreaRight, kDefaultEffectArea.right);
-            this->Put(&Filter::put_AreaBottom, kDefaultEffectArea.bottom);
+            this->Put(&Filter::put_AreaLeft, kValidEffectArea.left);
+            this->Put(&Filter::put_AreaTop, kValidEffectArea.top);
+            this->Put(&Filter::put_AreaRight, kValidEffectArea.right);
+            this->Put(&Filter::put_AreaBottom, kValidEffectArea.bottom);
         }
         if (place == AreaSwitch::AfterEdges) this->Put(&Filter::put_AreaEnable, on);
     }

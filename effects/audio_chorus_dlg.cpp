@@ -64,4 +64,9 @@ private:
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::AudioChorus>::kInfo = {
+    L"Audio Chorus Settings", 500, 680,
+    L"Enable Audio Chorus Effect, makes one instrument sound like many instruments are being played. It "
+    L"adds some thickness to the sound.",
+    ChainKind::Audio};
 std::unique_ptr<CDialog> MakeAudioChorusDlg() { return std::make_unique<CAudioChorusDlg>(); }

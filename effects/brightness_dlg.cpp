@@ -34,4 +34,7 @@ class CBrightnessDlg : public CMotionDlg<EffectId::Brightness> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Brightness>::kInfo = {
+    L"Brightness Settings", 560, 500,
+    L"Enable Video Brightness Effect, will detects any object that moves and changes its brightness."};
 std::unique_ptr<CDialog> MakeBrightnessDlg() { return std::make_unique<CBrightnessDlg>(); }

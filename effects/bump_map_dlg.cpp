@@ -86,4 +86,7 @@ class CBumpMapDlg : public CAreaDlg<EffectId::BumpMap> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::BumpMap>::kInfo = {
+    L"Bump Map Settings", 500, 680,
+    L"Enable Video Bumpmap Effect, will embeds the texture of an image or frame into the movie frames."};
 std::unique_ptr<CDialog> MakeBumpMapDlg() { return std::make_unique<CBumpMapDlg>(); }

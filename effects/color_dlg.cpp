@@ -56,4 +56,8 @@ class CColorDlg : public CAreaDlg<EffectId::Color> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Color>::kInfo = {
+    L"Color Settings", 500, 630,
+    L"Enable Video Color Effect, will provides the ability to change some color attributes of the video, "
+    L"include the video hue, saturation, brightness and contrast."};
 std::unique_ptr<CDialog> MakeColorDlg() { return std::make_unique<CColorDlg>(); }

@@ -93,4 +93,6 @@ class CDeblockingDlg : public CEffectDlg<EffectId::Deblocking> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Deblocking>::kInfo = {
+    L"Deblocking Settings", 500, 580, L"Enable Video Deblocking Effect, will performs deblocking on the video."};
 std::unique_ptr<CDialog> MakeDeblockingDlg() { return std::make_unique<CDeblockingDlg>(); }

@@ -35,4 +35,8 @@ class CDizzyDlg : public CAreaDlg<EffectId::Dizzy> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Dizzy>::kInfo = {
+    L"Dizzy Settings", 500, 585,
+    L"Enable Video Dizzy Effect, will rotates, zooms and blurs video frames to create a dizziness-like "
+    L"effect."};
 std::unique_ptr<CDialog> MakeDizzyDlg() { return std::make_unique<CDizzyDlg>(); }

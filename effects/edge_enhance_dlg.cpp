@@ -46,4 +46,6 @@ class CEdgeEnhanceDlg : public CEffectDlg<EffectId::EdgeEnhance> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::EdgeEnhance>::kInfo = {
+    L"Edge Enhance Settings", 500, 460, L"Enable Edge Enhance Effect, will performs edge enhancement on the video."};
 std::unique_ptr<CDialog> MakeEdgeEnhanceDlg() { return std::make_unique<CEdgeEnhanceDlg>(); }

@@ -4,8 +4,8 @@
 
 #include <afxwin.h>
 
-/// What "Set as default" sets, and what filters get instead of an invalid area.
-inline constexpr RECT kDefaultEffectArea = {0, 0, 1, 1};
+/// What filters get instead of an invalid area.
+inline constexpr RECT kValidEffectArea = {0, 0, 1, 1};
 
 /// Brings right and bottom into the video and left and top below them. There is no lower limit for left and top, on
 /// purpose.

@@ -7,7 +7,6 @@
 
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/effect_settings.h"
-#include "effects/effect_catalogue.h"
 #include "effects/effect_dialogs.h"
 #include "effects/record_dlg.h"
 #include "entry/session.h"
@@ -15,17 +14,19 @@
 
 /// What belongs to an effect by its name.
 template <EffectId Id>
-struct EffectTypes;
+struct EffectTraits;
 
-#define EFFECT_TYPES(name, number)                                          \
+#define EFFECT_TRAITS(name, number)                                         \
     template <>                                                             \
-    struct EffectTypes<EffectId::name> {                                    \
+    struct EffectTraits<EffectId::name> {                                   \
         using Filter = IEffect##name;                                       \
         using Settings = name##Settings;                                    \
+        static constexpr const CLSID& kFilterClass = CLSID_Effect##name;    \
         static constexpr const IID& kPropertyInterface = IID_IEffect##name; \
+        static const EffectInfo kInfo; /* Stands in the dialog's source. */ \
     };
-EFFECT_SETTINGS_EFFECTS(EFFECT_TYPES)
-#undef EFFECT_TYPES
+EFFECT_SETTINGS_EFFECTS(EFFECT_TRAITS)
+#undef EFFECT_TRAITS
 
 /// A check box's state as filters take it.
 inline VARIANT_BOOL AutomationBool(const CSkinCheckBox& box) { return box.IsChecked() ? VARIANT_TRUE : VARIANT_FALSE; }
@@ -33,12 +34,13 @@ inline VARIANT_BOOL AutomationBool(const CSkinCheckBox& box) { return box.IsChec
 template <EffectId Id>
 class CEffectDlg : public CRecordDlg {
 protected:
-    using Filter = typename EffectTypes<Id>::Filter;
-    using Settings = typename EffectTypes<Id>::Settings;
+    using Filter = typename EffectTraits<Id>::Filter;
+    using Settings = typename EffectTraits<Id>::Settings;
     using SettingsField = std::int32_t Settings::*;
 
     explicit CEffectDlg(const EffectDialogOptions& options = {})
-        : CRecordDlg(EffectInfoOf(Id), options), m_settings(static_cast<Settings*>(g_Settings)) {}
+        : CRecordDlg(EffectTraits<Id>::kInfo, EffectTraits<Id>::kFilterClass, options),
+          m_settings(static_cast<Settings*>(g_Settings)) {}
 
     // What a dialog creates its controls with; each stands for a field.
 
@@ -63,7 +65,7 @@ protected:
 
     void ConnectFilter(IUnknown& processor) override {
         void* filter = nullptr;
-        if (SUCCEEDED(processor.QueryInterface(EffectTypes<Id>::kPropertyInterface, &filter))) {
+        if (SUCCEEDED(processor.QueryInterface(EffectTraits<Id>::kPropertyInterface, &filter))) {
             *m_filter.ReleaseAndGetAddressOf() = static_cast<Filter*>(filter);
         }
     }

@@ -38,4 +38,5 @@ class CEmbossDlg : public CBaseDlg {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Emboss>::kInfo = {L"Emboss Settings", 500, 600, L"Enable Video Emboss Effect."};
 std::unique_ptr<CDialog> MakeEmbossDlg() { return std::make_unique<CEmbossDlg>(); }

@@ -137,4 +137,6 @@ class CFireDlg : public CMotionDlg<EffectId::Fire> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Fire>::kInfo = {
+    L"Fire Settings", 560, 645, L"Enable Video Fire Effect, will draws flames around a moving object on the video."};
 std::unique_ptr<CDialog> MakeFireDlg() { return std::make_unique<CFireDlg>(); }

@@ -24,4 +24,7 @@ class CGammaCorrectionDlg : public CEffectDlg<EffectId::GammaCorrection> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::GammaCorrection>::kInfo = {
+    L"Gamma Correction Settings", 500, 460,
+    L"Enable Gamma Correction Effect, will performs gamma correction to the video."};
 std::unique_ptr<CDialog> MakeGammaCorrectionDlg() { return std::make_unique<CGammaCorrectionDlg>(); }

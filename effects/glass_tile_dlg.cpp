@@ -41,4 +41,7 @@ class CGlassTileDlg : public CAreaDlg<EffectId::GlassTile> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::GlassTile>::kInfo = {
+    L"Glass Tile Settings", 500, 560,
+    L"Enable Video Glass Tile Effect, will create a stained glass effect on the video."};
 std::unique_ptr<CDialog> MakeGlassTileDlg() { return std::make_unique<CGlassTileDlg>(); }

@@ -43,4 +43,8 @@ class CHologramDlg : public CMotionDlg<EffectId::Hologram> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Hologram>::kInfo = {
+    L"Hologram Settings", 560, 590,
+    L"Enable Video Hologram Effect, will draws a holographic-like a shadow of a moving object on the "
+    L"video."};
 std::unique_ptr<CDialog> MakeHologramDlg() { return std::make_unique<CHologramDlg>(); }

@@ -36,4 +36,6 @@ class CLensDlg : public CAreaDlg<EffectId::Lens> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Lens>::kInfo = {
+    L"Lens Settings", 500, 540, L"Enable Video Lens Effect, will adds a fish eye-like effect on the video."};
 std::unique_ptr<CDialog> MakeLensDlg() { return std::make_unique<CLensDlg>(); }

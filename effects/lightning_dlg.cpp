@@ -23,4 +23,7 @@ class CLightningDlg : public CMotionDlg<EffectId::Lightning> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Lightning>::kInfo = {
+    L"Lightning Settings", 560, 500,
+    L"Enable Video Lighting Effect, will draws lightning sparks around moving objects on the video."};
 std::unique_ptr<CDialog> MakeLightningDlg() { return std::make_unique<CLightningDlg>(); }

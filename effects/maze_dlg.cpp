@@ -35,4 +35,6 @@ class CMazeDlg : public CAreaDlg<EffectId::Maze> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Maze>::kInfo = {
+    L"Maze Settings", 500, 540, L"Enable Video Maze Effect, will distorts the video into a crystal maze."};
 std::unique_ptr<CDialog> MakeMazeDlg() { return std::make_unique<CMazeDlg>(); }

@@ -28,4 +28,6 @@ class CMosaicDlg : public CAreaDlg<EffectId::Mosaic> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Mosaic>::kInfo = {
+    L"Mosaic Settings", 500, 520, L"Enable Video Mosaic Effect to be applied to a selected area."};
 std::unique_ptr<CDialog> MakeMosaicDlg() { return std::make_unique<CMosaicDlg>(); }

@@ -37,4 +37,7 @@ private:
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::MotionBlur>::kInfo = {
+    L"Motion Blur Settings", 560, 500,
+    L"Enable Video Motion Blur Effect, will creates a motion blur effect for moving objects on the video."};
 std::unique_ptr<CDialog> MakeMotionBlurDlg() { return std::make_unique<CMotionBlurDlg>(); }

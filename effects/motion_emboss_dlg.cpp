@@ -37,4 +37,7 @@ class CMotionEmbossDlg : public CBaseDlg {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::MotionEmboss>::kInfo = {
+    L"Motion Emboss Settings", 560, 620,
+    L"Enable Video Motion Emboss Effect, will applies an Emboss effect to moving objects on the video."};
 std::unique_ptr<CDialog> MakeMotionEmbossDlg() { return std::make_unique<CMotionEmbossDlg>(); }

@@ -32,4 +32,7 @@ class CMotionMosaicDlg : public CMotionDlg<EffectId::MotionMosaic> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::MotionMosaic>::kInfo = {
+    L"Motion Mosaic Settings", 560, 540,
+    L"Enable Video Motion Mosaic Effect, will applies a mosaic effect to moving objects on the video."};
 std::unique_ptr<CDialog> MakeMotionMosaicDlg() { return std::make_unique<CMotionMosaicDlg>(); }

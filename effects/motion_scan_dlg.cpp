@@ -37,4 +37,8 @@ class CMotionScanDlg : public CAreaDlg<EffectId::MotionScan> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::MotionScan>::kInfo = {
+    L"Motion Scan Settings", 500, 540,
+    L"Enable Video Motion Scan Effect, will scan one line per frame and draw it to the destination on the "
+    L"video."};
 std::unique_ptr<CDialog> MakeMotionScanDlg() { return std::make_unique<CMotionScanDlg>(); }

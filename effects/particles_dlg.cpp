@@ -25,4 +25,8 @@ class CParticlesDlg : public CEffectDlg<EffectId::Particles> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Particles>::kInfo = {
+    L"Particles Settings", 500, 460,
+    L"Enable Video Particles Effect, will distorts objects into small particles when it moves, then joins "
+    L"the particles to reform the objects when it stops moving."};
 std::unique_ptr<CDialog> MakeParticlesDlg() { return std::make_unique<CParticlesDlg>(); }

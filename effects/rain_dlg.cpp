@@ -40,4 +40,6 @@ class CRainDlg : public CAreaDlg<EffectId::Rain> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Rain>::kInfo = {
+    L"Rain Settings", 500, 560, L"Enable Video Rain Effect, will adds rain drops to the video."};
 std::unique_ptr<CDialog> MakeRainDlg() { return std::make_unique<CRainDlg>(); }

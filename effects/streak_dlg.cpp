@@ -28,4 +28,8 @@ class CStreakDlg : public CEffectDlg<EffectId::Streak> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Streak>::kInfo = {
+    L"Streak Settings", 500, 400,
+    L"Enable Video Streak Effect, will shows moving objects as they are traced in slow motion on the "
+    L"video."};
 std::unique_ptr<CDialog> MakeStreakDlg() { return std::make_unique<CStreakDlg>(); }

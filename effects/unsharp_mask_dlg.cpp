@@ -44,4 +44,7 @@ private:
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::UnsharpMask>::kInfo = {
+    L"Unsharp Mask Settings", 560, 500,
+    L"Enable Video Unsharp Mask Effect will performs a sharpening effect on the video."};
 std::unique_ptr<CDialog> MakeUnsharpMaskDlg() { return std::make_unique<CUnsharpMaskDlg>(); }

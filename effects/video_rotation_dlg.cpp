@@ -70,4 +70,6 @@ private:
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::VideoRotation>::kInfo = {
+    L"Video Rotation Settings", 500, 500, L"If checked, will rotate the selected video."};
 std::unique_ptr<CDialog> MakeVideoRotationDlg() { return std::make_unique<CVideoRotationDlg>(); }

@@ -30,4 +30,6 @@ class CWaveDlg : public CEffectDlg<EffectId::Wave> {
 
 }  // namespace
 
+const EffectInfo EffectTraits<EffectId::Wave>::kInfo = {
+    L"Wave Settings", 560, 470, L"Enable Video Wave Effect, will makes waves around moving objects on the video."};
 std::unique_ptr<CDialog> MakeWaveDlg() { return std::make_unique<CWaveDlg>(); }

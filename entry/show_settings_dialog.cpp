@@ -2,7 +2,6 @@
 #include <afxwin.h>
 
 #include "effect_settings/effect_settings.h"
-#include "effects/effect_catalogue.h"
 #include "effects/effect_dialogs.h"
 #include "entry/session.h"
 #include "skin/gdi_plus.h"
@@ -55,10 +54,10 @@ std::int32_t WINAPI ShowSettingsDialog(IMediaHost** host, EffectId effectId, std
     if (!settings) return kSettingsNotShown;
 
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (!IsKnownEffect(effectId)) return kSettingsNotShown;
     try {
         const CGdiPlusLoop loop;
-        return static_cast<std::int32_t>(MakeEffectDialog(effectId)->DoModal());
+        const std::unique_ptr<CDialog> dialog = MakeEffectDialog(effectId);
+        return dialog ? static_cast<std::int32_t>(dialog->DoModal()) : kSettingsNotShown;
     } catch (...) {
         return kSettingsNotCreated;  // An exception must not reach the host.
     }

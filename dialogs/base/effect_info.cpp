@@ -1,7 +1,6 @@
 #include "dialogs/base/effect_info.h"
 
 #include "effect_settings/effect_filters.h"
-#include "entry/session.h"
 
 namespace {
 
@@ -15,14 +14,7 @@ CString GuidText(const GUID& guid) {
 
 }  // namespace
 
-CString MonikerOf(const EffectInfo& info) {
-    const GUID& category = info.chain == ChainKind::Video ? CATID_EffectVideoProcessor : CATID_EffectAudioProcessor;
-    return L"@device:sw:" + GuidText(category) + L"\\" + GuidText(info.filterClass);
-}
-
-CString TitleOf(const EffectInfo& info) {
-    if (!info.hasArea) return CString(info.title);
-    CString size;
-    size.Format(L"(%dx%d)", g_VideoWidth, g_VideoHeight);
-    return info.title + size;
+CString MonikerOf(const CLSID& filterClass, ChainKind chain) {
+    const GUID& category = chain == ChainKind::Video ? CATID_EffectVideoProcessor : CATID_EffectAudioProcessor;
+    return L"@device:sw:" + GuidText(category) + L"\\" + GuidText(filterClass);
 }

@@ -29,8 +29,9 @@ BEGIN_MESSAGE_MAP(CEffectSettingsDlg, CSkinDialog)
     ON_MESSAGE(WM_SKIN_COMBO_SELECT, OnComboSelect)
 END_MESSAGE_MAP()
 
-CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const EffectDialogOptions& options)
-    : m_info(info), m_options(options), m_moniker(MonikerOf(info)) {}
+CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass,
+                                       const EffectDialogOptions& options)
+    : m_info(info), m_options(options), m_moniker(MonikerOf(filterClass, info.chain)) {}
 
 bool CEffectSettingsDlg::CreateStandardControls() {
     const LPCWSTR blackPanel = AfxRegisterWndClass(
@@ -58,7 +59,9 @@ CRect CEffectSettingsDlg::HelpRectBelow(int top) const {
 }
 
 BOOL CEffectSettingsDlg::OnOpening() {
-    PlaceWindow(m_info.width, m_info.height, TitleOf(m_info));
+    CString size;
+    if (m_options.titleHasSize) size.Format(L"(%dx%d)", g_VideoWidth, g_VideoHeight);
+    PlaceWindow(m_info.width, m_info.height, m_info.title + size);
     if (m_options.firstSync == FirstSync::BeforeAttach) SyncControls();
     const bool attached = AttachFilter();
     if (!GetSafeHwnd()) return FALSE;  // The host closed the dialog meanwhile.

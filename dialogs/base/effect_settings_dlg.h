@@ -22,11 +22,12 @@ enum class FirstSync { BeforeAttach, AfterAttach, OnFirstClick };
 struct EffectDialogOptions {
     FirstSync firstSync = FirstSync::AfterAttach;
     UINT previewId = 11;
+    bool titleHasSize = false;  ///< The source video's size follows the title.
 };
 
 class CEffectSettingsDlg : public CSkinDialog {
 protected:
-    CEffectSettingsDlg(const EffectInfo& info, const EffectDialogOptions& options);
+    CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass, const EffectDialogOptions& options);
 
     // What a dialog states of its own: CreateControls and LayoutControls, then these.
 
@@ -49,7 +50,6 @@ protected:
     /// Creates the check box that every effect has first, with the effect's description as its help.
     bool CreateEnable(std::int32_t checked);
     void SyncAndApply();
-    const EffectInfo& Info() const { return m_info; }
 
     /// A rectangle as tall as a row of controls, in client coordinates.
     static CRect At(int x, int y, int width) { return CRect(x, y, x + width, y + kRowHeight); }
