@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "effects/effect_area.h"
-#include "effects/number_edit.h"
+#include "effects/parts/effect_area.h"
+#include "effects/parts/number_edit.h"
 
 std::ostream& operator<<(std::ostream& out, const RECT& rect) {
     return out << "(" << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ")";
