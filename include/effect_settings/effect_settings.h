@@ -163,10 +163,10 @@ typedef struct DeblockingSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1.
     int32_t algorithm EFFECT_SETTINGS_DEFAULT(0);       ///< 0 (two lines) or 1 (four lines).
     int32_t edgeThreshold EFFECT_SETTINGS_DEFAULT(48);  ///< 0 to 255.
-    int32_t blockOffsetX EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video.
-    int32_t blockOffsetY EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video.
-    int32_t blockWidth EFFECT_SETTINGS_DEFAULT(8);      ///< In pixels of the source video.
-    int32_t blockHeight EFFECT_SETTINGS_DEFAULT(8);     ///< In pixels of the source video.
+    int32_t blockOffsetX EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video; any number, as typed.
+    int32_t blockOffsetY EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video; any number, as typed.
+    int32_t blockWidth EFFECT_SETTINGS_DEFAULT(8);      ///< In pixels of the source video; any number, 0 too.
+    int32_t blockHeight EFFECT_SETTINGS_DEFAULT(8);     ///< In pixels of the source video; any number, 0 too.
 } DeblockingSettings;
 EFFECT_SETTINGS_SIZE(DeblockingSettings, 28);
 
