@@ -4,6 +4,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <afxwin.h>
 
@@ -28,7 +29,7 @@
 
 namespace {
 
-constexpr int kWidth = 940;
+constexpr int kWidth = 1085;
 constexpr int kHeight = 692;
 constexpr int kLabelLeft = 20;
 constexpr int kFirstColumn = 190;
@@ -48,7 +49,7 @@ constexpr LPCWSTR kTip = L"This tip goes after two seconds.";
 
 constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 
-enum Column { kNormal, kHover, kPressed, kDisabled, kLong };
+enum Column { kNormal, kHover, kPressed, kDisabled, kFocused, kLong };
 
 /// Saves what the screen shows where a window is, pop-ups over it included.
 bool SaveScreenOf(HWND window, const std::wstring& file) {
@@ -88,6 +89,7 @@ public:
 
 protected:
     bool CreateControls() override;
+    void PaintControls(const CRect& area) override;
     BOOL OnOpening() override;
 
     afx_msg void OnTimer(UINT_PTR timer);
@@ -123,6 +125,7 @@ private:
     void AddSliderRow(int row);
 
     std::wstring m_screenshot;
+    std::vector<const CSkinControl*> m_marked;  // With the mark of the focus, which only one has at a time.
     std::deque<std::unique_ptr<CSkinItem>> m_items;
     std::deque<CSkinSlider> m_sliders;
     CRadioGroup m_radios;
@@ -150,9 +153,10 @@ template <typename Item, typename Prepare>
 void CKitGalleryDlg::AddRow(int row, LPCWSTR label, LPCWSTR text, LPCWSTR longText, Prepare prepare) {
     AddText(label, CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     prepare(Add<Item>(text, Cell(kNormal, row)));
-    for (int column = kHover; column <= kDisabled; ++column) {
+    for (int column = kHover; column <= kFocused; ++column) {
         auto& item = Add<Frozen<Item>>(text, Cell(column, row));
         prepare(item);
+        if (column == kFocused && item.TakesFocus()) m_marked.push_back(&item);
         item.FreezeAs(column);
     }
     prepare(Add<Item>(longText, Cell(kLong, row)));
@@ -170,6 +174,7 @@ void CKitGalleryDlg::AddOwnRow(int row, LPCWSTR label, Setup setUp) {
             auto item = std::make_unique<Frozen<Item>>();
             setUp(*item, column);
             item->FreezeAs(column);
+            if (column == kFocused) m_marked.push_back(item.get());
             Keep(std::move(item));
         }
     }
@@ -198,10 +203,11 @@ void CKitGalleryDlg::AddSliderRow(int row) {
         LPCWSTR label;
         double position;
         bool enabled;
-    } sliders[] = {{L"Slider, lowest", 0, true},
-                   {L"Slider, middle", 50, true},
-                   {L"Slider, highest", 100, true},
-                   {L"Slider, disabled", 50, false}};
+        bool marked;
+    } sliders[] = {{L"Slider, lowest", 0, true, false},
+                   {L"Slider, middle, focused", 50, true, true},
+                   {L"Slider, highest", 100, true, false},
+                   {L"Slider, disabled", 50, false, false}};
     for (const auto& setup : sliders) {
         const CRect cell = Cell(0, row++);
         AddText(setup.label, CRect(kLabelLeft, cell.top, kFirstColumn, cell.bottom));
@@ -210,11 +216,12 @@ void CKitGalleryDlg::AddSliderRow(int row) {
         slider.SetPosition(setup.position);
         slider.Enable(setup.enabled);
         AddControl(slider);
+        if (setup.marked) m_marked.push_back(&slider);
     }
 }
 
 bool CKitGalleryDlg::CreateControls() {
-    const LPCWSTR headings[] = {L"Live", L"Hover", L"Pressed", L"Disabled", L"Long text"};
+    const LPCWSTR headings[] = {L"Live", L"Hover", L"Pressed", L"Disabled", L"Focused", L"Long text"};
     for (int column = kNormal; column <= kLong; ++column) {
         CRect heading = Cell(column, 0);
         heading.OffsetRect(0, -30);
@@ -256,6 +263,12 @@ bool CKitGalleryDlg::CreateControls() {
     AddSliderRow(row);
     AddComboRow(row + 4);
     return m_tip.Create();
+}
+
+void CKitGalleryDlg::PaintControls(const CRect& area) {
+    CSkinDialog::PaintControls(area);
+    const CBorrowedDC dc(m_hWnd);
+    for (const CSkinControl* control : m_marked) DrawFocusMark(dc, control->Bounds());
 }
 
 BOOL CKitGalleryDlg::OnOpening() {

@@ -4,6 +4,14 @@ void CColorSwatch::SetColor(COLORREF color) {
     if (color == m_color) return;
     m_color = color;
     Draw();
+    Changed(EVENT_OBJECT_VALUECHANGE);
+}
+
+ControlFacts CColorSwatch::Facts() const {
+    ControlFacts facts = CSkinItem::Facts();
+    facts.role = ROLE_SYSTEM_GRAPHIC;
+    facts.value.Format(L"%d, %d, %d", RedOf(m_color), GreenOf(m_color), BlueOf(m_color));
+    return facts;
 }
 
 void CColorSwatch::Paint(HDC dc, CSize size) {

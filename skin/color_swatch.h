@@ -6,7 +6,9 @@
 class CColorSwatch : public CSkinItem {
 public:
     COLORREF Color() const { return m_color; }
-    void SetColor(COLORREF color);  ///< Redraws only when the colour changes.
+    void SetColor(COLORREF color);                      ///< Redraws only when the colour changes.
+    bool TakesFocus() const override { return false; }  // There is nothing to do with it.
+    ControlFacts Facts() const override;
 
 protected:
     void Paint(HDC dc, CSize size) override;

@@ -40,12 +40,16 @@ void CComboDropList::DrawItem(LPDRAWITEMSTRUCT item) {
     const CRect row = item->rcItem;
     const bool selected = (item->itemState & ODS_SELECTED) != 0;
     const CBufferedPaint buffer(item->hDC, row);
-    FillRectangle(buffer.Dc(), CRect(0, 0, row.Width(), row.Height()), selected ? kOrangeColor : kTextColor);
+    FillRectangle(
+        buffer.Dc(), CRect(0, 0, row.Width(), row.Height()), GroundColor(selected ? kOrangeColor : kTextColor));
+    if (selected && IsHighContrast()) {
+        DrawOpenCornerFrame(buffer.Dc(), buffer.Size(), kTextColor);  // The ground is the same for all rows.
+    }
     CString text;
     GetText(static_cast<int>(item->itemID), text);
     CTextGraphics graphics(buffer.Dc());
     DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), CRect(kTextLeft, 0, row.Width(), row.Height()),
-               TextLayout::LeftMiddle, OpaqueColor(selected ? kTextColor : kBackgroundColor));
+               TextLayout::LeftMiddle, Ink(selected ? kTextColor : kBackgroundColor));
 }
 
 void CComboDropList::OnMouseMove(UINT /*flags*/, CPoint point) {
@@ -110,7 +114,7 @@ void CComboDropWnd::OnSize(UINT type, int cx, int cy) {
 BOOL CComboDropWnd::OnEraseBkgnd(CDC* dc) {
     CRect client;
     GetClientRect(client);
-    FillRectangle(dc->GetSafeHdc(), client, kAccentColor);
+    FillRectangle(dc->GetSafeHdc(), client, InkColor(kAccentColor));
     return TRUE;
 }
 
@@ -187,6 +191,38 @@ void CVelComboListBox::SetVisible(bool visible) {
     CSkinItem::SetVisible(visible);
 }
 
+void CVelComboListBox::SetText(LPCWSTR text) {
+    CSkinItem::SetText(text);
+    Changed(EVENT_OBJECT_VALUECHANGE);
+}
+
+void CVelComboListBox::HandleKey(UINT key) {
+    if (key == VK_F4) {
+        Activate();
+        return;
+    }
+    const int last = m_drop.List().GetCount() - 1;
+    const int current = CurrentIndex();
+    const int row = key == VK_HOME || key == VK_PRIOR ? 0
+                    : key == VK_END || key == VK_NEXT ? last
+                    : key == VK_UP || key == VK_LEFT  ? (std::max)(current - 1, 0)
+                                                      : (std::min)(current + 1, last);
+    if (row > last || row == current) return;
+    CString text;
+    m_drop.List().GetText(row, text);
+    OnPicked(text);
+}
+
+ControlFacts CVelComboListBox::Facts() const {
+    ControlFacts facts = CSkinItem::Facts();
+    facts.role = ROLE_SYSTEM_COMBOBOX;
+    facts.name.Empty();
+    facts.value = Text();
+    facts.state |= STATE_SYSTEM_HASPOPUP | (IsDropped() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
+    facts.action = IsDropped() ? L"Close" : L"Open";
+    return facts;
+}
+
 void CVelComboListBox::OnPicked(LPCWSTR text) {
     SetText(text);
     ::PostMessageW(Parent(), WM_SKIN_COMBO_SELECT, reinterpret_cast<WPARAM>(this), 0);
@@ -220,7 +256,7 @@ void CVelComboListBox::OnPress(bool inside) {
 }
 
 void CVelComboListBox::Paint(HDC dc, CSize size) {
-    FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), kTextColor);
+    FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), GroundColor(kTextColor));
     const COLORREF color = IsPressed() || IsHovered() ? kHoverOutlineColor : kOutlineColor;
     CTextGraphics graphics(dc);
     DrawCutCornerOutline(graphics, size, color);
@@ -228,9 +264,9 @@ void CVelComboListBox::Paint(HDC dc, CSize size) {
     const int width = size.cx;
     const int lower = IsPressed() ? 3 : 0;
     const Gdiplus::Point triangle[] = {{width - 13, 10 + lower}, {width - 6, 10 + lower}, {width - 10, 14 + lower}};
-    graphics.FillPolygon(&SharedBrush(OpaqueColor(color)), triangle, 3);
+    graphics.FillPolygon(&SharedBrush(Ink(color)), triangle, 3);
     if (Text().IsEmpty()) return;
     DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kTextEm),
                CRect(kTextLeft, 0, width - kTriangleSpace, size.cy), TextLayout::LeftMiddle,
-               OpaqueColor(IsEnabled() ? kBackgroundColor : DisabledColor()));
+               Ink(IsEnabled() ? kBackgroundColor : DisabledColor()));
 }

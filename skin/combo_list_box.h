@@ -66,6 +66,12 @@ public:
 
     void SetEnabled(bool enabled) override;
     void SetVisible(bool visible) override;
+    void SetText(LPCWSTR text) override;
+    /// Opens or closes the list.
+    void Activate() override { ShowDropDown(!IsDropped()); }
+    /// Arrows choose the row before or after, Home and End the first and the last.
+    void HandleKey(UINT key) override;
+    ControlFacts Facts() const override;
 
     // Called by the list.
     void OnPicked(LPCWSTR text);

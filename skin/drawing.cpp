@@ -40,6 +40,7 @@ void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bott
         return reinterpret_cast<GradientFillFunction>(reinterpret_cast<void*>(found));
     }();
     if (rect.Width() <= 0 || rect.Height() <= 0) return;
+    if (IsHighContrast()) return FillRectangle(dc, rect, GroundColor(top));
     const auto vertex = [](int x, int y, COLORREF color) {
         const auto channel = [](int value) { return static_cast<COLOR16>(value << 8); };
         return TRIVERTEX{x, y, channel(RedOf(color)), channel(GreenOf(color)), channel(BlueOf(color)), 0};
@@ -57,7 +58,7 @@ void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle) {
 
 void DrawLines(HDC dc, const POINT* points, int count, COLORREF color) {
     const HGDIOBJ previous = ::SelectObject(dc, ::GetStockObject(DC_PEN));
-    ::SetDCPenColor(dc, color);
+    ::SetDCPenColor(dc, InkColor(color));
     ::Polyline(dc, points, count);
     ::SelectObject(dc, previous);
 }
@@ -70,13 +71,26 @@ void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color) {
     for (const auto& line : lines) DrawLines(dc, line, 2, color);
 }
 
+CRect FocusMarkAround(const CRect& control) {
+    return CRect(control.left - 2, control.top - 2, control.right + 2, control.bottom + 2);
+}
+
+void DrawFocusMark(HDC dc, const CRect& control) {
+    const CRect mark = FocusMarkAround(control);
+    const LONG right = mark.right - 1;
+    const LONG bottom = mark.bottom - 1;
+    const POINT frame[] = {
+        {mark.left, mark.top}, {right, mark.top}, {right, bottom}, {mark.left, bottom}, {mark.left, mark.top}};
+    DrawLines(dc, frame, static_cast<int>(std::size(frame)), kAccentColor);
+}
+
 void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color) {
     const int right = size.cx - 1;
     const int bottom = size.cy - 1;
     const Gdiplus::Point corners[] = {
         {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
         {1, bottom}, {0, bottom - 1}, {0, 1}};
-    graphics.DrawPolygon(&SharedPen(OpaqueColor(color)), corners, static_cast<INT>(std::size(corners)));
+    graphics.DrawPolygon(&SharedPen(Ink(color)), corners, static_cast<INT>(std::size(corners)));
 }
 
 CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
@@ -100,9 +114,9 @@ void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gd
             &SharedBrush(OpaqueColor(ink)));
     };
     for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
-        drawAt(at.x + offset.x, at.y + offset.y, halo);
+        drawAt(at.x + offset.x, at.y + offset.y, GroundColor(halo));
     }
-    drawAt(at.x, at.y, color);
+    drawAt(at.x, at.y, InkColor(color));
 }
 
 Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font,

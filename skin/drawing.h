@@ -94,6 +94,7 @@ private:
     CMemoryDC m_memory;
 };
 
+/// In exactly this colour; the other helpers draw in InkColor and GroundColor of theirs.
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color);
 /// Fills with a gradient from top to bottom; plain in the first colour where the system has no GradientFill.
 void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bottom);
@@ -103,6 +104,9 @@ void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle);
 void DrawLines(HDC dc, const POINT* points, int count, COLORREF color);
 /// A one-pixel frame around (0, 0, size) whose four corner pixels are left out.
 void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color);
+/// The mark of the focus is a one-pixel frame around a control, with a gap of one pixel.
+CRect FocusMarkAround(const CRect& control);
+void DrawFocusMark(HDC dc, const CRect& control);
 /// The outline of edit boxes and drop-down lists: anti-aliased, closed, with one-pixel cut corners.
 void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color);
 
@@ -110,6 +114,9 @@ inline Gdiplus::Color OpaqueColor(COLORREF color) {
     return Gdiplus::Color(
         static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color)));
 }
+
+/// What text and marks are drawn in.
+inline Gdiplus::Color Ink(COLORREF color) { return OpaqueColor(InkColor(color)); }
 
 /// A GDI+ surface set up as the whole kit draws: anti-aliased, with grid-fitted ClearType text.
 class CTextGraphics : public Gdiplus::Graphics {

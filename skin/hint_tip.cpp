@@ -89,13 +89,13 @@ void CHintTip::OnPaint() {
         ::StretchBlt(buffer.Dc(), 0, 0, client.Width(), client.Height(), source, 0, 0, picture.bmWidth,
                      picture.bmHeight, SRCCOPY);
     } else {
-        FillRectangle(buffer.Dc(), client, kBackgroundColor);
+        FillRectangle(buffer.Dc(), client, GroundColor(kBackgroundColor));
     }
     {
         CTextGraphics graphics(buffer.Dc());
         CRect line = client;
         line.InflateRect(2, 0);  // The width was truncated: in an exact rectangle the last letter might not fit.
-        DrawTextIn(graphics, m_text, TextFontOfTip(), line, TextLayout::Tip, OpaqueColor(kTextColor));
+        DrawTextIn(graphics, m_text, TextFontOfTip(), line, TextLayout::Tip, Ink(kTextColor));
     }
     const LONG right = client.right - 1;
     const LONG bottom = client.bottom - 1;

@@ -34,3 +34,12 @@ inline constexpr COLORREF kGreenColor = MakeColor(12, 182, 102);
 
 /// The system's colour for disabled parts; asked each time, since the user may change it.
 inline COLORREF DisabledColor() { return ::GetSysColor(COLOR_GRAYTEXT); }
+
+// In the system's high contrast its own colours take the place of the kit's. Without it these give what they are given.
+
+COLORREF InkColor(COLORREF color);     ///< For what stands on a ground: text, lines, marks.
+COLORREF GroundColor(COLORREF color);  ///< For what is stood on: the dialog, faces, the insides of edits.
+bool IsHighContrast();
+/// Looks at the system's setting, when a dialog opens and when the user changes it.
+void UpdateContrast();
+void SetHighContrast(bool on);

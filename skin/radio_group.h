@@ -32,6 +32,7 @@ private:
     public:
         CButton(CRadioGroup& group, int value) : m_group(group), m_value(value) {}
         int Value() const { return m_value; }
+        const void* Group() const override { return &m_group; }
 
     protected:
         void OnClick() override { m_group.SetValue(m_value); }

@@ -8,6 +8,15 @@ void CSkinButton::SetPicture(LPCWSTR path) {
     Draw();
 }
 
+ControlFacts CSkinButton::Facts() const {
+    ControlFacts facts = CSkinItem::Facts();
+    facts.role = ROLE_SYSTEM_PUSHBUTTON;
+    if (facts.name.IsEmpty()) facts.name = m_spokenName;
+    if (IsPressed()) facts.state |= STATE_SYSTEM_PRESSED;
+    facts.action = L"Press";
+    return facts;
+}
+
 void CSkinButton::Paint(HDC dc, CSize size) {
     if (m_framed) {
         const CRect face(1, 1, size.cx - 1, size.cy - 1);
@@ -19,7 +28,11 @@ void CSkinButton::Paint(HDC dc, CSize size) {
         DrawOpenCornerFrame(dc, size, IsHovered() ? kAccentColor : Lighten(kAccentColor, 30));
     }
     CTextGraphics graphics(dc);
-    if (m_picture) PaintPicture(graphics, size);
+    if (m_picture && IsHighContrast()) {
+        PaintCross(dc, size);
+    } else if (m_picture) {
+        PaintPicture(graphics, size);
+    }
     if (!Text().IsEmpty()) PaintCaption(graphics, size);
 }
 
@@ -30,6 +43,15 @@ void CSkinButton::PaintPicture(Gdiplus::Graphics& graphics, CSize size) const {
     const int shift = IsPressed() ? 1 : 0;
     const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);
     graphics.DrawImage(m_picture.get(), place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+}
+
+void CSkinButton::PaintCross(HDC dc, CSize size) {
+    constexpr int kArm = 4;
+    const LONG x = size.cx / 2;
+    const LONG y = size.cy / 2;
+    const POINT lines[][2] = {
+        {{x - kArm, y - kArm}, {x + kArm + 1, y + kArm + 1}}, {{x - kArm, y + kArm}, {x + kArm + 1, y - kArm - 1}}};
+    for (const auto& line : lines) DrawLines(dc, line, 2, kTextColor);
 }
 
 void CSkinButton::PaintCaption(Gdiplus::Graphics& graphics, CSize size) const {

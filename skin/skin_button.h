@@ -12,14 +12,20 @@ public:
     void SetPicture(LPCWSTR path);
     /// A framed button has a face; one that is not framed shows its picture only.
     void SetFramed(bool framed) { m_framed = framed; }
+    /// What a button without a caption is called. A literal.
+    void SetSpokenName(LPCWSTR name) { m_spokenName = name; }
+    ControlFacts Facts() const override;
 
 protected:
     void Paint(HDC dc, CSize size) override;
 
 private:
     void PaintPicture(Gdiplus::Graphics& graphics, CSize size) const;
+    /// The picture of the only button that has one, the close button, in the system's own colours.
+    static void PaintCross(HDC dc, CSize size);
     void PaintCaption(Gdiplus::Graphics& graphics, CSize size) const;
 
     bool m_framed = true;
+    LPCWSTR m_spokenName = L"";
     std::unique_ptr<Gdiplus::Image> m_picture;
 };

@@ -12,6 +12,15 @@ void CSkinCheckBox::SetChecked(bool checked) {
     if (checked == m_checked) return;
     m_checked = checked;
     Draw();
+    Changed(EVENT_OBJECT_STATECHANGE);
+}
+
+ControlFacts CSkinCheckBox::Facts() const {
+    ControlFacts facts = CSkinItem::Facts();
+    facts.role = ROLE_SYSTEM_CHECKBUTTON;
+    if (m_checked) facts.state |= STATE_SYSTEM_CHECKED;
+    facts.action = m_checked ? L"Uncheck" : L"Check";
+    return facts;
 }
 
 void CSkinCheckBox::Paint(HDC dc, CSize size) {
@@ -28,7 +37,7 @@ void CSkinCheckBox::Paint(HDC dc, CSize size) {
         : IsHovered() ? kOrangeColor
                       : Darken(kTextColor, 30);
     DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm),
-               CRect(kCaptionLeft, 0, kCaptionLeft + size.cx, size.cy), TextLayout::LeftMiddle, OpaqueColor(color));
+               CRect(kCaptionLeft, 0, kCaptionLeft + size.cx, size.cy), TextLayout::LeftMiddle, Ink(color));
 }
 
 void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int y) const {

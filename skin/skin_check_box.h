@@ -9,6 +9,7 @@ public:
     void SetChecked(bool checked);  ///< Redraws only when the state changes.
     /// A plain one shows the dialog behind it; one that is not plain has a button's face.
     void SetPlain(bool plain) { m_plain = plain; }
+    ControlFacts Facts() const override;
 
 protected:
     void OnClick() override { SetChecked(!m_checked); }

@@ -3,6 +3,32 @@
 
 #include <afxwin.h>
 
+#include <oleacc.h>
+
+class CSkinControl;
+
+/// What a screen reader is told of a control.
+struct ControlFacts {
+    LONG role = ROLE_SYSTEM_STATICTEXT;
+    LONG state = 0;  ///< Without what follows from the focus.
+    CString name;    ///< Empty for a control that its label names.
+    CString value;
+    LPCWSTR action = nullptr;  ///< What Activate does; null where that is nothing.
+};
+
+/// The dialog that a control was added to, as the control sees it.
+class CControlSite {
+public:
+    virtual void ControlDrawn(const CRect& area) = 0;
+    /// @param event  EVENT_OBJECT_STATECHANGE or EVENT_OBJECT_VALUECHANGE.
+    virtual void ControlChanged(CSkinControl& control, DWORD event) = 0;
+    /// The answer to WM_GETOBJECT of a control's own window.
+    virtual LRESULT ControlObject(CSkinControl& control, WPARAM wParam) = 0;
+
+protected:
+    ~CControlSite() = default;
+};
+
 class CSkinControl {
 public:
     /// Hands over the dialog's painted background, which shows behind the control. Borrowed until the next call.
@@ -14,6 +40,41 @@ public:
     /// Receives the dialog's mouse messages with the point in client coordinates.
     virtual void HandleMouse(UINT /*message*/, CPoint /*point*/) {}
 
+    /// Whether the focus can come here now.
+    virtual bool TakesFocus() const { return false; }
+    /// The window that the system's focus goes to; null for a control that the dialog hands its keys to.
+    virtual HWND FocusWindow() const { return nullptr; }
+    /// What Space does.
+    virtual void Activate() {}
+    /// What one of the keys that move does (arrows, Page Up and Down, Home, End, F4), and a notch of the wheel: an arrow.
+    virtual void HandleKey(UINT /*key*/) {}
+    /// Controls of one group are one stop of Tab, and the arrows choose among them. Null for none.
+    virtual const void* Group() const { return nullptr; }
+    virtual ControlFacts Facts() const = 0;
+    /// Takes a value as the user would type it; false where there is none to set.
+    virtual bool SetValueText(LPCWSTR /*text*/) { return false; }
+
+    void SetSite(CControlSite* site) { m_site = site; }
+
 protected:
     ~CSkinControl() = default;
+
+    CControlSite* Site() const { return m_site; }
+    /// Of a window in its parent's client coordinates.
+    static CRect BoundsOf(HWND window) {
+        CRect bounds;
+        ::GetWindowRect(window, bounds);
+        ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<POINT*>(&bounds), 2);
+        return bounds;
+    }
+    /// The answer to WM_GETOBJECT of the control's own window; 0 leaves it to the system.
+    LRESULT AskedForObject(WPARAM wParam, LPARAM lParam) {
+        return m_site && static_cast<LONG>(lParam) == OBJID_CLIENT ? m_site->ControlObject(*this, wParam) : 0;
+    }
+    void Changed(DWORD event) {
+        if (m_site) m_site->ControlChanged(*this, event);
+    }
+
+private:
+    CControlSite* m_site = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "skin/skin_dialog.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "skin/layered_window.h"
@@ -10,6 +11,7 @@ namespace {
 constexpr int kTitleHeight = 34;
 constexpr UINT kLabelId = 99;
 constexpr int kCornerDiameter = 5;
+constexpr UINT kRepairFocus = WM_USER + 700;
 
 // The window has no size, no controls and no border of its own: everything is placed and painted in code.
 struct EmptyDialogTemplate {
@@ -19,6 +21,21 @@ struct EmptyDialogTemplate {
     WORD noTitle = 0;
 };
 const EmptyDialogTemplate kEmptyDialog;
+
+/// The part of a window's monitor that is free for windows.
+CRect WorkAreaOf(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
+/// The way that a rectangle has to go to lie in an area; of one that is too large the top left part will.
+CPoint WayInto(const CRect& area, const CRect& rect) {
+    const LONG x = (std::max)((std::min)(rect.left, area.right - rect.Width()), area.left);
+    const LONG y = (std::max)((std::min)(rect.top, area.bottom - rect.Height()), area.top);
+    return CPoint(x - rect.left, y - rect.top);
+}
 
 }  // namespace
 
@@ -33,11 +50,20 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_SETFOCUS()
+    ON_MESSAGE(kRepairFocus, OnRepairFocus)
+    ON_MESSAGE(WM_SETTINGCHANGE, OnSettingChange)
+    ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
 CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header, &m_owner); }
 
-void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) { m_controls.push_back({&control, help}); }
+void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) {
+    m_controls.push_back({&control, help});
+    control.SetSite(this);
+}
 
 bool CSkinDialog::AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help) {
     if (!item.Create(text, this, CRect(0, 0, 0, 0), id)) return false;
@@ -54,6 +80,7 @@ bool CSkinDialog::AddLabel(CSkinStatic& label, LPCWSTR text) {
 int CSkinDialog::OnCreate(LPCREATESTRUCT create) {
     if (CDialog::OnCreate(create) == -1) return -1;
     MakeLayered(m_hWnd, 255);
+    UpdateContrast();
     try {
         if (CreateStandardControls() && CreateControls()) return 0;
     } catch (...) {
@@ -70,11 +97,14 @@ bool CSkinDialog::CreateStandardControls() {
     }
     m_closeButton.SetPicture(SkinFolder() + L"img\\btn\\dia-close.png");
     m_closeButton.SetFramed(false);
+    m_closeButton.SetSpokenName(L"Close");
+    m_closeButton.SetTabStop(false);
     return true;
 }
 
 void CSkinDialog::OnDestroy() {
     CDialog::OnDestroy();
+    m_accessibility.Disconnect();
     SetSkinBackground(nullptr);
     m_background.Reset();
     // Somebody else destroyed the window: the framework would wait for an answer for ever.
@@ -101,7 +131,22 @@ void CSkinDialog::EndDialog(int result) {
 void CSkinDialog::PlaceWindow(int width, int height, LPCWSTR title) {
     MoveWindow(0, 0, width, height);
     CenterWindow();
+    const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
+    MoveBy(WayInto(WorkAreaOf(owner ? owner : m_hWnd), WindowRect()));
     SetWindowText(title);
+}
+
+CRect CSkinDialog::WindowRect() const {
+    CRect window;
+    GetWindowRect(window);
+    return window;
+}
+
+void CSkinDialog::MoveBy(CPoint way) {
+    const CPoint at = WindowRect().TopLeft();
+    if (!(way == CPoint(0, 0))) {
+        SetWindowPos(nullptr, at.x + way.x, at.y + way.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 CRect CSkinDialog::ClientRect() const {
@@ -127,7 +172,7 @@ void CSkinDialog::CreateBackground() {
     {
         const CMemoryDC dc(display, background.Get());
         const COLORREF bandTop = Lighten(kBackgroundColor, 15);
-        FillRectangle(dc, CRect(0, 0, width, height), kBackgroundColor);
+        FillRectangle(dc, CRect(0, 0, width, height), GroundColor(kBackgroundColor));
         FillVerticalGradient(dc, CRect(1, 1, width - 1, 16), bandTop, Darken(bandTop, 5));
         FillVerticalGradient(dc, CRect(1, 16, width - 1, kTitleHeight), kBackgroundColor, kBackgroundColor);
 
@@ -185,8 +230,9 @@ void CSkinDialog::DrawTitle(HDC dc) const {
     path.AddString(title, title.GetLength(), &FontFamilyFor(L"Arial"),
                    Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic, 15.0F, area, &format);
     CTextGraphics graphics(dc);
-    const COLORREF color = Darken(kTextColor, 10);
-    graphics.FillPath(&SharedBrush(Gdiplus::Color(200, static_cast<BYTE>(RedOf(color)),
+    const COLORREF color = InkColor(Darken(kTextColor, 10));
+    const BYTE alpha = IsHighContrast() ? 255 : 200;
+    graphics.FillPath(&SharedBrush(Gdiplus::Color(alpha, static_cast<BYTE>(RedOf(color)),
                                                   static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color)))),
                       &path);
 }
@@ -194,6 +240,7 @@ void CSkinDialog::DrawTitle(HDC dc) const {
 void CSkinDialog::OnPaint() {
     const CPaintDC dc(this);
     PaintControls(dc.m_ps.rcPaint);
+    m_focus.DrawMark(dc.m_ps.rcPaint);
 }
 
 void CSkinDialog::PaintControls(const CRect& area) {
@@ -211,9 +258,35 @@ void CSkinDialog::Press(CPoint point) {
     const CRect titleBar(0, 0, ClientRect().right - 30, 35);
     if (titleBar.PtInRect(point)) {
         PostMessage(WM_NCLBUTTONDOWN, HTCAPTION, MAKELPARAM(point.x, point.y));
-    } else {
-        RelayMouseEvent(WM_LBUTTONDOWN, point);
+        return;
     }
+    RelayMouseEvent(WM_LBUTTONDOWN, point);
+    if (WindowRect().Height() <= WorkAreaOf(m_hWnd).Height() || !IsEmptyAt(point)) return;
+    // The system would not leave the title bar above the screen, but there is no other way to the last row.
+    m_dragging = true;
+    m_dragStart = point;
+    SetCapture();
+}
+
+bool CSkinDialog::IsEmptyAt(CPoint point) const {
+    return std::none_of(m_controls.begin(), m_controls.end(), [&](const Entry& entry) {
+        const LONG role = entry.control->Facts().role;
+        return role != ROLE_SYSTEM_STATICTEXT && role != ROLE_SYSTEM_GRAPHIC && entry.control->Bounds().PtInRect(point);
+    });
+}
+
+void CSkinDialog::DragTo(CPoint point) {
+    CRect place = WindowRect();
+    place.OffsetRect(point.x - m_dragStart.x, point.y - m_dragStart.y);
+    const LONG highest = WorkAreaOf(m_hWnd).bottom - place.Height();  // The last row shows.
+    place.OffsetRect(0, (std::max)(highest - place.top, 0L));
+    const CPoint at = WindowRect().TopLeft();
+    MoveBy(CPoint(place.left - at.x, place.top - at.y));
+}
+
+void CSkinDialog::OnCaptureChanged(CWnd* other) {
+    m_dragging = false;
+    CDialog::OnCaptureChanged(other);
 }
 
 void CSkinDialog::OnLButtonDown(UINT flags, CPoint point) {
@@ -227,6 +300,7 @@ void CSkinDialog::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 void CSkinDialog::OnLButtonUp(UINT flags, CPoint point) {
+    if (m_dragging) ::ReleaseCapture();
     RelayMouseEvent(WM_LBUTTONUP, point);
     CDialog::OnLButtonUp(flags, point);
 }
@@ -236,11 +310,88 @@ void CSkinDialog::OnMouseMove(UINT flags, CPoint point) {
         TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 1};
         m_trackingMouse = ::_TrackMouseEvent(&track) != FALSE;
     }
-    RelayMouseEvent(WM_MOUSEMOVE, point);
+    if (m_dragging) {
+        DragTo(point);
+    } else {
+        RelayMouseEvent(WM_MOUSEMOVE, point);
+    }
     CDialog::OnMouseMove(flags, point);
 }
 
 void CSkinDialog::OnMouseLeave() {
     m_trackingMouse = false;
     RelayMouseEvent(WM_MOUSELEAVE, CPoint(-99, -99));
+}
+
+BOOL CSkinDialog::PreTranslateMessage(MSG* message) {
+    try {
+        if (m_focus.Translate(*message)) return TRUE;
+    } catch (...) {
+        // Without memory the key does what the system makes of it.
+    }
+    return CDialog::PreTranslateMessage(message);
+}
+
+BOOL CSkinDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (lParam && HIWORD(wParam) == EN_SETFOCUS) m_focus.Adopt(reinterpret_cast<HWND>(lParam));
+    return CDialog::OnCommand(wParam, lParam);
+}
+
+void CSkinDialog::OnSetFocus(CWnd* previous) {
+    // The system would hand it on to the first window that takes it.
+    if (!m_focus.KeepsSystemFocus()) CDialog::OnSetFocus(previous);
+}
+
+BOOL CSkinDialog::OnMouseWheel(UINT /*flags*/, short delta, CPoint point) {
+    ScreenToClient(&point);
+    m_focus.TurnWheel(delta, point);
+    return TRUE;
+}
+
+void CSkinDialog::OnFocusMoved(CSkinControl& control) {
+    CRect place = FocusMarkAround(control.Bounds());
+    ClientToScreen(place);
+    MoveBy(WayInto(WorkAreaOf(m_hWnd), place));
+}
+
+LONG CSkinDialog::NumberOf(const CSkinControl& control) const {
+    const auto entry = std::find_if(
+        m_controls.begin(), m_controls.end(), [&](const Entry& candidate) { return candidate.control == &control; });
+    return static_cast<LONG>(entry - m_controls.begin()) + 1;
+}
+
+void CSkinDialog::ControlChanged(CSkinControl& control, DWORD event) {
+    if (!IsWindowVisible()) return;
+    ::NotifyWinEvent(event, m_hWnd, OBJID_CLIENT, NumberOf(control));
+    if (event != EVENT_OBJECT_STATECHANGE || control.TakesFocus() || m_repairPending) return;
+    // Once for all that is being disabled.
+    m_repairPending = PostMessage(kRepairFocus) != FALSE;
+}
+
+LRESULT CSkinDialog::OnRepairFocus(WPARAM, LPARAM) {
+    m_repairPending = false;
+    m_focus.Repair();
+    return 0;
+}
+
+LRESULT CSkinDialog::ControlObject(CSkinControl& control, WPARAM wParam) {
+    return m_accessibility.ObjectFor(NumberOf(control), wParam);
+}
+
+LRESULT CSkinDialog::OnAskForObject(WPARAM wParam, LPARAM lParam) {
+    const bool client = static_cast<LONG>(lParam) == OBJID_CLIENT;
+    const LRESULT object = client ? m_accessibility.ObjectFor(CHILDID_SELF, wParam) : 0;
+    return object ? object : Default();
+}
+
+LRESULT CSkinDialog::OnSettingChange(WPARAM, LPARAM) {
+    const bool before = IsHighContrast();
+    UpdateContrast();
+    if (IsHighContrast() != before) ShowContrast();
+    return Default();
+}
+
+void CSkinDialog::ShowContrast() {
+    CreateBackground();
+    RedrawWindow(nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -1,19 +1,26 @@
 // The frame that all skinned dialogs share: a borderless window with rounded corners, a painted title bar,
-// the close, Cancel and OK buttons, and the list of controls that painting and mouse messages go to.
+// the close, Cancel and OK buttons, and the list of controls that painting, the mouse and the keys go to.
 #pragma once
 
 #include <vector>
 
 #include <afxwin.h>
 
+#include "skin/accessible.h"
 #include "skin/drawing.h"
+#include "skin/focus_ring.h"
 #include "skin/guarded.h"
 #include "skin/skin_button.h"
 #include "skin/skin_control.h"
 #include "skin/skin_static.h"
 
-class CSkinDialog : public CGuarded<CDialog> {
+class CSkinDialog : public CGuarded<CDialog>, public CControlSite {
 public:
+    struct Entry {
+        CSkinControl* control;
+        LPCWSTR help;
+    };
+
     CSkinDialog();
 
     /// Adds a control to the list that the background, painting and mouse messages are handed to, in the order of
@@ -24,13 +31,21 @@ public:
     bool AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help = nullptr);
     /// Adds a label as all dialogs have them.
     bool AddLabel(CSkinStatic& label, LPCWSTR text);
+    /// All controls in the order of adding.
+    const std::vector<Entry>& Controls() const { return m_controls; }
+    CFocusRing& FocusRing() { return m_focus; }
+    /// The keys, or a screen reader, gave a control the focus.
+    virtual void OnFocusMoved(CSkinControl& control);
+
+    void ControlDrawn(const CRect& area) override { m_focus.DrawMark(area); }
+    void ControlChanged(CSkinControl& control, DWORD event) override;
+    LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override;
+
+    BOOL PreTranslateMessage(MSG* message) override;
+    /// Draws all anew, after the contrast has changed.
+    void ShowContrast();
 
 protected:
-    struct Entry {
-        CSkinControl* control;
-        LPCWSTR help;
-    };
-
     // Both create controls once the window exists; a false makes the dialog's creation fail.
     virtual bool CreateStandardControls();          ///< What all dialogs of a kind have.
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
@@ -51,10 +66,12 @@ protected:
     BOOL OnInitDialog() override;
     void OnOK() override { EndDialog(IDOK); }
     void OnCancel() override { EndDialog(IDCANCEL); }
-    /// Sizes the window, puts it into the middle of its owner and sets its title.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    /// Sizes the window, puts it into the middle of its owner, with the title bar on the screen, and sets its title.
     void PlaceWindow(int width, int height, LPCWSTR title);
-    const std::vector<Entry>& Controls() const { return m_controls; }
     CRect ClientRect() const;
+    CRect WindowRect() const;
+    void MoveBy(CPoint way);
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnDestroy();
@@ -66,6 +83,12 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnMouseLeave();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnSetFocus(CWnd* previous);
+    afx_msg void OnCaptureChanged(CWnd* other);
+    afx_msg LRESULT OnRepairFocus(WPARAM, LPARAM);
+    afx_msg LRESULT OnSettingChange(WPARAM, LPARAM);
+    afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CSkinButton m_closeButton;
@@ -73,9 +96,13 @@ protected:
     CSkinButton m_okButton;
 
 private:
+    LONG NumberOf(const CSkinControl& control) const;
+
     void CreateBackground();
     void DrawTitle(HDC dc) const;
     void Press(CPoint point);
+    bool IsEmptyAt(CPoint point) const;
+    void DragTo(CPoint point);
 
     /// The active window at construction, for DoModal: the framework knows one only on the thread that loaded the library.
     class COwner : public CWnd {
@@ -88,5 +115,10 @@ private:
     bool m_answered = false;
     CBitmapHandle m_background;
     std::vector<Entry> m_controls;
+    CFocusRing m_focus{*this};
+    CAccessibility m_accessibility{*this};
+    bool m_repairPending = false;
     bool m_trackingMouse = false;
+    bool m_dragging = false;  // By an empty part, from
+    CPoint m_dragStart;       // this point of it.
 };

@@ -10,6 +10,7 @@ constexpr COLORREF kHoverOutlineColor = MakeColor(90, 90, 90);
 BEGIN_MESSAGE_MAP(CSkinEdit::CInnerEdit, CEdit)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSELEAVE()
+    ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
 void CSkinEdit::CInnerEdit::OnMouseMove(UINT flags, CPoint point) {
@@ -26,6 +27,11 @@ void CSkinEdit::CInnerEdit::OnMouseLeave() {
     m_trackingMouse = false;
     CEdit::OnMouseLeave();
     m_frame.HandleMouse(WM_MOUSELEAVE, CPoint(-99, -99));
+}
+
+LRESULT CSkinEdit::CInnerEdit::OnAskForObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT object = m_frame.AskedForObject(wParam, lParam);
+    return object ? object : Default();
 }
 
 bool CSkinEdit::Create(LPCWSTR text, DWORD style, CWnd* parent, const CRect& rect, UINT id) {
@@ -64,8 +70,21 @@ CString CSkinEdit::Text() const {
     return text;
 }
 
+ControlFacts CSkinEdit::Facts() const {
+    ControlFacts facts = CSkinItem::Facts();
+    facts.role = ROLE_SYSTEM_TEXT;
+    facts.value = Text();
+    return facts;
+}
+
+bool CSkinEdit::SetValueText(LPCWSTR text) {
+    if (!IsEnabled()) return false;
+    SetText(text);
+    return true;
+}
+
 void CSkinEdit::Paint(HDC dc, CSize size) {
-    FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), kTextColor);
+    FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), GroundColor(kTextColor));
     CTextGraphics graphics(dc);
     DrawCutCornerOutline(graphics, size, IsHovered() || IsPressed() ? kHoverOutlineColor : kOutlineColor);
 }

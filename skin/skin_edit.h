@@ -17,6 +17,11 @@ public:
     void SetText(LPCWSTR text) override { m_edit.SetWindowText(text); }
     CString Text() const;
 
+    HWND FocusWindow() const override { return m_edit.GetSafeHwnd(); }
+    void Activate() override {}
+    ControlFacts Facts() const override;
+    bool SetValueText(LPCWSTR text) override;
+
 protected:
     void Paint(HDC dc, CSize size) override;
 
@@ -29,6 +34,7 @@ private:
     protected:
         afx_msg void OnMouseMove(UINT flags, CPoint point);
         afx_msg void OnMouseLeave();
+        afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
         DECLARE_MESSAGE_MAP()
 
     private:

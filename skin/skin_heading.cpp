@@ -9,5 +9,5 @@ void CSkinHeading::Paint(HDC dc, CSize size) {
         constexpr int kGap = 6;
         left = static_cast<int>(std::ceil(MeasureText(CTextGraphics(dc), Text(), DrawnFont()).Width)) + kGap;
     }
-    FillRectangle(dc, CRect(left, size.cy / 2, size.cx, size.cy / 2 + 1), kAccentColor);
+    FillRectangle(dc, CRect(left, size.cy / 2, size.cx, size.cy / 2 + 1), InkColor(kAccentColor));
 }

@@ -34,6 +34,7 @@ void CSkinItem::SetEnabled(bool enabled) {
     m_state = State::Normal;
     HideTip();
     Draw();
+    Changed(EVENT_OBJECT_STATECHANGE);
 }
 
 void CSkinItem::SetVisible(bool visible) {
@@ -41,6 +42,7 @@ void CSkinItem::SetVisible(bool visible) {
     m_visible = visible;
     HideTip();
     if (::IsWindow(m_parent)) ::InvalidateRect(m_parent, m_rect, TRUE);
+    Changed(EVENT_OBJECT_STATECHANGE);
 }
 
 void CSkinItem::SetRect(const CRect& rect, bool redraw) {
@@ -54,10 +56,26 @@ void CSkinItem::SetRect(const CRect& rect, bool redraw) {
 
 void CSkinItem::Draw() {
     if (!m_visible || m_rect.IsRectEmpty() || !::IsWindowVisible(m_parent)) return;
-    const CBorrowedDC screen(m_parent);
-    const CBufferedPaint buffer(screen, m_rect);
-    buffer.CopyFrom(m_background);
-    Paint(buffer.Dc(), buffer.Size());
+    {
+        const CBorrowedDC screen(m_parent);
+        const CBufferedPaint buffer(screen, m_rect);
+        buffer.CopyFrom(m_background);
+        Paint(buffer.Dc(), buffer.Size());
+    }
+    if (Site()) Site()->ControlDrawn(m_rect);
+}
+
+ControlFacts CSkinItem::Facts() const {
+    ControlFacts facts;
+    facts.name = m_text;
+    if (!m_enabled) facts.state |= STATE_SYSTEM_UNAVAILABLE;
+    if (!m_visible || m_rect.IsRectEmpty()) facts.state |= STATE_SYSTEM_INVISIBLE;
+    return facts;
+}
+
+void CSkinItem::Click() {
+    OnClick();
+    if (PostsCommand()) ::PostMessageW(m_parent, WM_COMMAND, MAKEWPARAM(m_id, 0), 0);
 }
 
 void CSkinItem::SetState(State state) {
@@ -151,10 +169,7 @@ void CSkinItem::OnButtonUp(CPoint point) {
         SetState(State::Normal);
         return;
     }
-    if (wasPressed) {
-        OnClick();
-        if (PostsCommand()) ::PostMessageW(m_parent, WM_COMMAND, MAKEWPARAM(m_id, 0), 0);
-    }
+    if (wasPressed) Click();
     SetState(State::Hover);
     // Every item looks again at where the pointer is.
     CPoint cursor;

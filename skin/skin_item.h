@@ -29,6 +29,9 @@ public:
     void HandleMouse(UINT message, CPoint point) override;
     /// Draws the item onto its parent. Nothing happens while either of them is not to be seen.
     void Draw() override;
+    bool TakesFocus() const override { return m_tabStop && m_enabled && m_visible && !m_rect.IsRectEmpty(); }
+    void Activate() override { Click(); }
+    ControlFacts Facts() const override;
 
     UINT Id() const { return m_id; }
     const CString& Text() const { return m_text; }
@@ -38,6 +41,8 @@ public:
     bool IsVisible() const { return m_visible; }
     virtual void SetVisible(bool visible);
     virtual void SetRect(const CRect& rect, bool redraw = false);
+    /// One that is no stop of Tab never has the focus.
+    void SetTabStop(bool tabStop) { m_tabStop = tabStop; }
     /// Shown in a pop-up for two seconds when the pointer comes over the item; an empty text shows none.
     void SetTipText(LPCWSTR text) { m_tipText = text; }
     /// The cursor to show after the item handled a move, a press or a release. Borrowed.
@@ -54,6 +59,7 @@ protected:
     virtual void Paint(HDC dc, CSize size) = 0;
 
     void SetState(State state);
+    void Click();
     HWND Parent() const { return m_parent; }
     HFONT Font() const { return m_font ? m_font : ItemFont(); }
     HBITMAP Background() const { return m_background; }
@@ -74,6 +80,7 @@ private:
     CRect m_rect{0, 0, 0, 0};
     bool m_enabled = true;
     bool m_visible = true;
+    bool m_tabStop = true;
     CString m_text;
     HFONT m_font = nullptr;
     HBITMAP m_background = nullptr;

@@ -22,6 +22,7 @@ BEGIN_MESSAGE_MAP(CMessageText, CRichEditCtrl)
     ON_WM_GETDLGCODE()
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
+    ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
 void CMessageText::ClickAtStart() {
@@ -40,6 +41,22 @@ void CMessageText::OnLButtonUp(UINT flags, CPoint point) {
 void CMessageText::OnMouseMove(UINT flags, CPoint point) {
     // A move between the press and the release would select up to wherever the pointer is.
     if (!m_clicking) CRichEditCtrl::OnMouseMove(flags, point);
+}
+
+CRect CMessageText::Bounds() const { return BoundsOf(m_hWnd); }
+
+ControlFacts CMessageText::Facts() const {
+    ControlFacts facts;
+    facts.role = ROLE_SYSTEM_TEXT;
+    facts.state = STATE_SYSTEM_READONLY;
+    facts.name = L"Message";
+    GetWindowText(facts.value);
+    return facts;
+}
+
+LRESULT CMessageText::OnAskForObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT object = AskedForObject(wParam, lParam);
+    return object ? object : Default();
 }
 
 BEGIN_MESSAGE_MAP(CSkinMessageBox, CSkinDialog)
@@ -61,8 +78,9 @@ bool CSkinMessageBox::CreateControls() {
         (!AddItem(m_saveInfoButton, L"Save info", kSaveInfoId) || !AddItem(m_getHelpButton, L"Get Help", kGetHelpId))) {
         return false;
     }
+    AddControl(m_text);
     m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(ItemFont()), FALSE);
-    m_text.SendMessage(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(kBackgroundColor));
+    m_text.SendMessage(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GroundColor(kBackgroundColor)));
     const bool asks = m_buttons == MessageButtons::YesNo;
     m_cancelButton.SetVisible(false);
     m_okButton.SetVisible(m_buttons == MessageButtons::Answer);
@@ -97,7 +115,7 @@ BOOL CSkinMessageBox::OnOpening() {
     CHARFORMATW format{};
     format.cbSize = sizeof(format);
     format.dwMask = CFM_COLOR;
-    format.crTextColor = kTextColor;
+    format.crTextColor = InkColor(kTextColor);
     m_text.SetWindowText(m_message);
     m_text.SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
     m_text.ClickAtStart();

@@ -9,13 +9,19 @@
 enum class MessageButtons : int { Answer = 1, YesNo = 4 };
 
 /// The text: it scrolls by the arrow keys and leaves all other keys, and what is selected, to the dialog.
-class CMessageText : public CGuarded<CRichEditCtrl> {
+class CMessageText : public CGuarded<CRichEditCtrl>, public CSkinControl {
 public:
     /// Posts a press and a release at the text's start, so that it begins without a selection.
     void ClickAtStart();
+    void SetBackground(HBITMAP) override {}
+    CRect Bounds() const override;
+    bool TakesFocus() const override { return true; }
+    HWND FocusWindow() const override { return m_hWnd; }
+    ControlFacts Facts() const override;
 
 protected:
     afx_msg UINT OnGetDlgCode() { return DLGC_WANTARROWS; }
+    afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()

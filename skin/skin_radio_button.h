@@ -5,6 +5,9 @@
 #include "skin/skin_check_box.h"
 
 class CSkinRadioButton : public CSkinCheckBox {
+public:
+    ControlFacts Facts() const override;
+
 protected:
     void OnClick() override { SetChecked(true); }
     void DrawMark(Gdiplus::Graphics& graphics, HDC dc, int x, int y) const override;

@@ -1,6 +1,7 @@
 #include "skin/skin_slider.h"
 
 #include <cmath>
+#include <cwchar>
 
 #include "skin/drawing.h"
 #include "skin/numbers.h"
@@ -29,6 +30,7 @@ BEGIN_MESSAGE_MAP(CSkinSlider, CWnd)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
     ON_WM_CAPTURECHANGED()
+    ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
 BOOL CSkinSlider::Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) {
@@ -52,14 +54,66 @@ void CSkinSlider::Enable(bool enable) {
     if (enable == (IsWindowEnabled() != FALSE)) return;
     EnableWindow(enable);
     if (IsWindowVisible()) Paint(CBorrowedDC(m_hWnd));
+    Changed(EVENT_OBJECT_STATECHANGE);
 }
 
-CRect CSkinSlider::Bounds() const {
-    CRect bounds;
-    GetWindowRect(bounds);
-    ::MapWindowPoints(nullptr, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&bounds), 2);
-    return bounds;
+int CSkinSlider::ShownNumber() const { return TruncateToInt(m_position); }
+
+bool CSkinSlider::TakesFocus() const {
+    return IsWindowEnabled() && (GetStyle() & WS_VISIBLE) != 0 && !Bounds().IsRectEmpty();
 }
+
+void CSkinSlider::HandleKey(UINT key) {
+    const double shown = ShownNumber();
+    const double page = (std::max)(std::floor((m_maximum - m_minimum) / 10.0 + 0.5), 1.0);
+    switch (key) {
+        case VK_LEFT:
+        case VK_DOWN:
+            return ProposeNumber(shown - 1.0);
+        case VK_RIGHT:
+        case VK_UP:
+            return ProposeNumber(shown + 1.0);
+        case VK_NEXT:
+            return ProposeNumber(shown - page);
+        case VK_PRIOR:
+            return ProposeNumber(shown + page);
+        case VK_HOME:
+            return ProposeNumber(m_minimum - Offset());
+        case VK_END:
+            return ProposeNumber(m_maximum - Offset());
+        default:
+            return;
+    }
+}
+
+void CSkinSlider::ProposeNumber(double number) {
+    const double inRange = (std::max)((std::min)(number, m_maximum - Offset()), m_minimum - Offset());
+    if (inRange != ShownNumber()) Propose(SliderCode::Dragged, inRange + Offset());
+}
+
+ControlFacts CSkinSlider::Facts() const {
+    ControlFacts facts;
+    facts.role = ROLE_SYSTEM_SLIDER;
+    facts.value.Format(L"%d", ShownNumber());
+    if (!IsWindowEnabled()) facts.state |= STATE_SYSTEM_UNAVAILABLE;
+    if (Bounds().IsRectEmpty()) facts.state |= STATE_SYSTEM_INVISIBLE;
+    return facts;
+}
+
+bool CSkinSlider::SetValueText(LPCWSTR text) {
+    wchar_t* end = nullptr;
+    const long number = std::wcstol(text, &end, 10);
+    if (end == text || !IsWindowEnabled()) return false;
+    ProposeNumber(number);
+    return true;
+}
+
+LRESULT CSkinSlider::OnAskForObject(WPARAM wParam, LPARAM lParam) {
+    const LRESULT object = AskedForObject(wParam, lParam);
+    return object ? object : Default();
+}
+
+CRect CSkinSlider::Bounds() const { return BoundsOf(m_hWnd); }
 
 void CSkinSlider::OnSize(UINT type, int cx, int cy) {
     CWnd::OnSize(type, cx, cy);
@@ -91,7 +145,7 @@ void CSkinSlider::Paint(HDC target) {
         ::StretchBlt(dc, 0, 0, client.Width(), client.Height(), source, place.left, place.top, place.Width(),
                      place.Height(), SRCCOPY);
     } else {
-        FillRectangle(dc, client, kBackgroundColor);
+        FillRectangle(dc, client, GroundColor(kBackgroundColor));
     }
 
     const bool enabled = IsWindowEnabled() != FALSE;
@@ -104,21 +158,21 @@ void CSkinSlider::Paint(HDC target) {
         {m_track.right, m_track.bottom},
         {m_track.left - 1, m_track.bottom},
         {m_track.left - 1, m_track.top - 1}};
-    FillRectangle(dc, m_track, kTextColor);
+    FillRectangle(dc, m_track, GroundColor(kTextColor));
     DrawLines(dc, outline, 5, Lighten(kAccentColor, 50));
 
     const CRect fill(kTrackLeft, kTrackTop, filled + kTrackLeft, kTrackBottom);
-    if (enabled) {
+    if (enabled && !IsHighContrast()) {
         FillVerticalGradient(dc, fill, kAccentColor, kBackgroundColor);
     } else {
-        FillRectangle(dc, fill, DisabledColor());
+        FillRectangle(dc, fill, InkColor(enabled ? kAccentColor : DisabledColor()));
     }
 
     m_thumb.SetRect(filled, kThumbTop, filled + kThumbWidth, kThumbBottom);
-    FillRectangle(dc, m_thumb, kThumbEdgeColor);
+    FillRectangle(dc, m_thumb, InkColor(kThumbEdgeColor));
     CRect inside = m_thumb;
     inside.DeflateRect(1, 1);
-    FillRectangle(dc, inside, enabled ? kAccentColor : DisabledColor());
+    FillRectangle(dc, inside, enabled ? GroundColor(kAccentColor) : DisabledColor());
 }
 
 CSkinSlider::State CSkinSlider::StateAt(CPoint point) const {

@@ -40,7 +40,19 @@ public:
     void SetBackground(HBITMAP background) override { m_background = background; }
     CRect Bounds() const override;
 
+    // The window itself handles no keys: the dialog, which has them, calls these.
+    bool TakesFocus() const override;
+    /// Proposes the number that a key leads to, as a drag would; nothing where that number stands already.
+    void HandleKey(UINT key) override;
+    ControlFacts Facts() const override;
+    bool SetValueText(LPCWSTR text) override;
+
 protected:
+    /// The number that stands beside the slider; one step of a key changes it by 1.
+    virtual int ShownNumber() const;
+    /// The position less the number that it stands for.
+    virtual int Offset() const { return 0; }
+
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
@@ -49,6 +61,7 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* other);
+    afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -56,6 +69,7 @@ private:
 
     void Paint(HDC target);
     void Propose(SliderCode code, double value);
+    void ProposeNumber(double number);
     State StateAt(CPoint point) const;
     bool IsFixed() const { return m_maximum == m_minimum; }  // A range of one position.
 

@@ -19,7 +19,7 @@ void CSkinStatic::SetPicture(std::unique_ptr<Gdiplus::Image> picture) {
 
 void CSkinStatic::Paint(HDC dc, CSize size) {
     const CRect all(0, 0, size.cx, size.cy);
-    if (!Background()) FillRectangle(dc, all, kBareColor);
+    if (!Background()) FillRectangle(dc, all, GroundColor(kBareColor));
     CTextGraphics graphics(dc);
     if (m_picture) {
         const int width = static_cast<int>(m_picture->GetWidth());
@@ -29,7 +29,7 @@ void CSkinStatic::Paint(HDC dc, CSize size) {
     }
     if (Text().IsEmpty()) return;
     DrawTextIn(graphics, Text(), DrawnFont(), all, m_leftAligned ? TextLayout::LeftMiddle : TextLayout::Centred,
-               OpaqueColor(m_textColor));
+               Ink(m_textColor));
 }
 
 const Gdiplus::Font& CSkinStatic::DrawnFont() const {

@@ -9,6 +9,8 @@ class CSkinStatic : public CSkinItem {
 public:
     void SetLeftAligned(bool leftAligned) { m_leftAligned = leftAligned; }
     void SetTextColor(COLORREF color);
+    bool TakesFocus() const override { return false; }
+    void Activate() override {}
     void SetPicture(std::unique_ptr<Gdiplus::Image> picture);
 
 protected:

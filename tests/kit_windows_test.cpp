@@ -57,24 +57,6 @@ TEST(Edit, TakesDigitsAndTellsOfEachChange) {
     });
 }
 
-TEST(Edit, TabMovesOnAndTheDialogsKeysKeepWorking) {
-    Edits edits;
-    edits.dialog.Run([&](DialogDriver& driver) {
-        edits.dialog.Do([&] { ::SetFocus(driver.Child(301)); });
-        const auto key = [&](WPARAM which) {
-            ::PostMessageW(FocusOf(driver.Window()), WM_KEYDOWN, which, 1);
-            driver.Settle();
-        };
-        key(VK_TAB);
-        EXPECT_EQ(FocusOf(driver.Window()), driver.Child(302));
-        key(VK_TAB);
-        EXPECT_EQ(FocusOf(driver.Window()), driver.Child(301));
-        key(VK_ESCAPE);
-        EXPECT_FALSE(driver.IsOpen());
-    });
-    EXPECT_EQ(edits.dialog.commands, std::vector<UINT>{IDCANCEL});
-}
-
 TEST(Edit, BothHalvesActTogether) {
     Edits edits;
     edits.dialog.Run([&](DialogDriver& driver) {

@@ -37,7 +37,8 @@ bool CEffectSettingsDlg::CreateStandardControls() {
     const LPCWSTR blackPanel = AfxRegisterWndClass(
         0, ::LoadCursorW(nullptr, IDC_ARROW), static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), nullptr);
     return CSkinDialog::CreateStandardControls() && AddItem(m_defaultButton, L"Set as default", kDefaultButtonId) &&
-           m_preview.Create(blackPanel, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, m_options.previewId);
+           m_preview.Create(
+               blackPanel, L"Preview", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, m_options.previewId);
 }
 
 bool CEffectSettingsDlg::CreateEnable(std::int32_t checked) {
@@ -151,7 +152,9 @@ void CEffectSettingsDlg::PaintControls(const CRect& area) {
 }
 
 BOOL CEffectSettingsDlg::PreTranslateMessage(MSG* message) {
-    if (message->message == WM_MOUSEMOVE) {
+    // The system also tells of moves when a window comes up under a pointer that rests.
+    if (message->message == WM_MOUSEMOVE && !(m_pointer == message->pt)) {
+        m_pointer = message->pt;
         CPoint point(message->pt);
         ScreenToClient(&point);
         try {
@@ -164,13 +167,20 @@ BOOL CEffectSettingsDlg::PreTranslateMessage(MSG* message) {
 }
 
 void CEffectSettingsDlg::ShowHelpAt(CPoint point) {
-    LPCWSTR help = L"";
     for (const Entry& entry : Controls()) {
-        if (entry.help && entry.control->Bounds().PtInRect(point)) {
-            help = entry.help;
-            break;
-        }
+        if (entry.help && entry.control->Bounds().PtInRect(point)) return ShowHelp(entry.help);
     }
+    ShowHelp(L"");
+}
+
+void CEffectSettingsDlg::OnFocusMoved(CSkinControl& control) {
+    CSkinDialog::OnFocusMoved(control);
+    for (const Entry& entry : Controls()) {
+        if (entry.control == &control) return ShowHelp(entry.help ? entry.help : L"");
+    }
+}
+
+void CEffectSettingsDlg::ShowHelp(LPCWSTR help) {
     if (m_helpText.CompareNoCase(help) == 0) return;
     m_helpText = help;
     PaintHelpPanel(CBorrowedDC(m_hWnd), m_helpRect, m_helpText);

@@ -2,6 +2,7 @@
 // the help panel, "Enable" and "Set as default". CEffectDlg (effects/effect_dlg.h) adds the types.
 #pragma once
 
+#include <climits>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -62,6 +63,7 @@ protected:
     BOOL OnOpening() override;
     void OnOK() override;
     BOOL PreTranslateMessage(MSG* message) override;
+    void OnFocusMoved(CSkinControl& control) override;
 
     afx_msg void OnDestroy();
     afx_msg void OnTimer(UINT_PTR timer);
@@ -85,6 +87,7 @@ private:
     void DetachFilter();
     bool Hears(UINT notification, UINT id) const;
     void ShowHelpAt(CPoint point);
+    void ShowHelp(LPCWSTR help);
 
     const EffectInfo& m_info;
     const EffectDialogOptions m_options;
@@ -94,5 +97,6 @@ private:
     CSkinButton m_defaultButton;
     CString m_helpText;
     std::vector<std::pair<UINT, UINT>> m_heard;  // Notification and id.
+    CPoint m_pointer{LONG_MIN, LONG_MIN};        // Where the pointer was last seen, on the screen.
     bool m_loading = true;  // Until the dialog is fully open; edits that are filled meanwhile push nothing.
 };

@@ -6,7 +6,7 @@
 namespace {
 
 constexpr float kTextEm = 13.0F;
-const Gdiplus::Color kHelpTextColor(255, 236, 143, 9);
+constexpr COLORREF kHelpTextColor = MakeColor(236, 143, 9);
 
 }  // namespace
 
@@ -14,8 +14,8 @@ void PaintHelpPanel(HDC dc, const CRect& rect, const CString& text) {
     if (rect.IsRectEmpty()) return;
     const CRect panel(0, 0, rect.Width(), rect.Height());
     const CBufferedPaint buffer(dc, rect);
-    FillRectangle(buffer.Dc(), panel, kBackgroundColor);
+    FillRectangle(buffer.Dc(), panel, GroundColor(kBackgroundColor));
     if (text.IsEmpty()) return;
     CTextGraphics graphics(buffer.Dc());
-    DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), panel, TextLayout::Wrapped, kHelpTextColor);
+    DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), panel, TextLayout::Wrapped, Ink(kHelpTextColor));
 }

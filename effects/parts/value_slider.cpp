@@ -35,7 +35,9 @@ void CValueSlider::SetValue(int value) {
 }
 
 void CValueSlider::ShowNumber(int number) {
+    m_shownNumber = number;
     CString text;
     text.Format(L"%d", number);
     m_number.SetText(text);
+    Changed(EVENT_OBJECT_VALUECHANGE);
 }

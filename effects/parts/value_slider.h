@@ -36,10 +36,15 @@ public:
     void SetValue(int value);
     void ShowPosition() override { ShowNumber(m_shown == Number::Saved ? Value() : Sent()); }
 
+protected:
+    int ShownNumber() const override { return m_shownNumber; }
+    int Offset() const override { return m_offset; }
+
 private:
     void ShowNumber(int number);
 
     int m_offset = 0;  // The slider holds value + offset, and so nothing below 0.
+    int m_shownNumber = 0;
     Number m_shown = Number::Saved;
     CSkinStatic m_label;
     CSkinStatic m_number;

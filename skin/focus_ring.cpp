@@ -1,0 +1,282 @@
+#include "skin/focus_ring.h"
+
+#include <algorithm>
+#include <cwctype>
+
+#include "skin/skin_dialog.h"
+
+namespace {
+
+constexpr LPARAM kWasDown = 1 << 30;  // In a key's message: it was down before, so this is a repeat.
+constexpr int kSameRow = 10;          // Controls whose tops differ by less stand side by side.
+
+bool IsDown(int key) { return ::GetKeyState(key) < 0; }
+
+bool IsRepeat(const MSG& message) { return (message.lParam & kWasDown) != 0; }
+
+/// Repeats that wait behind a slow filter count as one with the first of them, and none counts once the key is up.
+bool IsOutdated(const MSG& message) {
+    if (!IsRepeat(message)) return false;
+    MSG next;
+    while (::PeekMessageW(&next, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_NOREMOVE) && next.message == message.message &&
+           next.wParam == message.wParam && IsRepeat(next)) {
+        ::PeekMessageW(&next, nullptr, message.message, message.message, PM_REMOVE);
+    }
+    return ::GetAsyncKeyState(static_cast<int>(message.wParam)) >= 0;
+}
+
+bool IsMovingKey(WPARAM key) { return key >= VK_PRIOR && key <= VK_DOWN; }
+
+wchar_t Upper(wchar_t letter) { return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(letter))); }
+
+/// The first letter of a button's or a box's caption, in upper case; 0 for other controls.
+wchar_t LetterOf(const CSkinControl& control) {
+    const ControlFacts facts = control.Facts();
+    const bool pressable = facts.role == ROLE_SYSTEM_PUSHBUTTON || facts.role == ROLE_SYSTEM_CHECKBUTTON ||
+                           facts.role == ROLE_SYSTEM_RADIOBUTTON;
+    const bool captioned = pressable && !facts.name.IsEmpty() && !(facts.state & STATE_SYSTEM_INVISIBLE);
+    return captioned ? Upper(facts.name[0]) : L'\0';
+}
+
+}  // namespace
+
+bool CFocusRing::Translate(const MSG& message) {
+    const HWND window = m_dialog.GetSafeHwnd();
+    if (message.hwnd != window && !::IsChild(window, message.hwnd)) {
+        // The open list of a drop-down: its keys come by here too, but most are its own.
+        return (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) && OnSystemKey(message);
+    }
+    switch (message.message) {
+        case WM_KEYDOWN:
+            return OnKeyDown(message);
+        case WM_SYSKEYDOWN:
+            return OnSystemKey(message);
+        case WM_SYSCHAR:
+            return OnLetter(static_cast<wchar_t>(message.wParam));
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            OnPress(message);
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool CFocusRing::OnKeyDown(const MSG& message) {
+    const WPARAM key = message.wParam;
+    if (key == VK_SHIFT || key == VK_CONTROL) return false;
+    if (IsOutdated(message)) return true;
+    const bool markWasShown = m_markShown;
+    ShowMark();
+    if (key == VK_TAB && !IsDown(VK_CONTROL)) {
+        Advance(IsDown(VK_SHIFT) ? -1 : 1);
+        return true;
+    }
+    if (key == VK_RETURN) {
+        if (IsRepeat(message)) return true;
+        // Until a key has shown where the focus is, Enter is OK, whatever the mouse pressed last.
+        if (!markWasShown || !m_focused || m_focused->Facts().role != ROLE_SYSTEM_PUSHBUTTON) return false;
+        TakeSystemFocus();
+        m_focused->Activate();
+        return true;
+    }
+    if (key == VK_ESCAPE) return false;
+    if (m_focused && !m_focused->FocusWindow() && (key == VK_SPACE || key == VK_F4 || IsMovingKey(key))) {
+        TakeSystemFocus();
+        if (key != VK_SPACE) return OnMovingKey(message);
+        if (!IsRepeat(message)) m_focused->Activate();
+        return true;
+    }
+    Adopt(message.hwnd);  // What is typed into an edit makes it the focused one.
+    if (key == 'A' && IsDown(VK_CONTROL) && m_focused && message.hwnd == m_focused->FocusWindow()) {
+        ::SendMessageW(message.hwnd, EM_SETSEL, 0, -1);
+        return true;
+    }
+    // The system would move its own focus among the dialog's windows.
+    return IsMovingKey(key) && !m_focused;
+}
+
+bool CFocusRing::OnMovingKey(const MSG& message) {
+    const WPARAM key = message.wParam;
+    if (!m_focused->Group()) {
+        m_focused->HandleKey(static_cast<UINT>(key));
+    } else if (key == VK_LEFT || key == VK_UP) {
+        Choose(-1);
+    } else if (key == VK_RIGHT || key == VK_DOWN) {
+        Choose(1);
+    }
+    return true;
+}
+
+bool CFocusRing::OnSystemKey(const MSG& message) {
+    const bool system = message.message == WM_SYSKEYDOWN;
+    if (system) ShowMark();
+    const bool opens = system ? message.wParam == VK_DOWN || message.wParam == VK_UP : message.wParam == VK_F4;
+    if (!opens || !m_focused || m_focused->FocusWindow()) return false;
+    if (!IsRepeat(message)) m_focused->HandleKey(VK_F4);
+    return true;
+}
+
+bool CFocusRing::OnLetter(wchar_t letter) {
+    CSkinControl* const found = PressedBy(Upper(letter));
+    if (!found || !found->TakesFocus()) return false;
+    MoveTo(*found);
+    found->Activate();
+    return true;
+}
+
+CSkinControl* CFocusRing::PressedBy(wchar_t letter) const {
+    CSkinControl* found = nullptr;
+    for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
+        if (LetterOf(*entry.control) != letter) continue;
+        if (found) return nullptr;
+        found = entry.control;
+    }
+    return found;
+}
+
+wchar_t CFocusRing::ShortcutOf(const CSkinControl& control) const {
+    const wchar_t letter = LetterOf(control);
+    return letter && PressedBy(letter) ? letter : L'\0';
+}
+
+void CFocusRing::OnPress(const MSG& message) {
+    CPoint point(message.lParam);
+    ::MapWindowPoints(message.hwnd, m_dialog.GetSafeHwnd(), &point, 1);
+    for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
+        if (entry.control->TakesFocus() && entry.control->Bounds().PtInRect(point)) Focus(entry.control);
+    }
+}
+
+CFocusRing::Stops CFocusRing::InScreenOrder() const {
+    Stops stops;
+    for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
+        if (entry.control->TakesFocus() || entry.control == m_focused) stops.push_back(entry.control);
+    }
+    const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
+    const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
+    std::stable_sort(stops.begin(), stops.end(), [&](auto* a, auto* b) { return top(a) < top(b); });
+    for (auto row = stops.begin(); row != stops.end();) {
+        const auto next = std::find_if(row, stops.end(), [&](auto* stop) { return top(stop) >= top(*row) + kSameRow; });
+        std::stable_sort(row, next, [&](auto* a, auto* b) { return left(a) < left(b); });
+        row = next;
+    }
+    return stops;
+}
+
+CFocusRing::Stops CFocusRing::GroupOf(const CSkinControl& control) const {
+    Stops group = InScreenOrder();
+    std::erase_if(group, [&](const auto* stop) { return stop->Group() != control.Group(); });
+    return group;
+}
+
+void CFocusRing::Advance(int direction) {
+    const Stops stops = InScreenOrder();
+    const int count = static_cast<int>(stops.size());
+    const auto current = std::find(stops.begin(), stops.end(), m_focused);
+    int index = current != stops.end() ? static_cast<int>(current - stops.begin()) : direction > 0 ? -1 : count;
+    for (int step = 0; step < count; ++step) {
+        index = (index + direction + count) % count;
+        CSkinControl* stop = stops[static_cast<std::size_t>(index)];
+        if (stop == m_focused) continue;
+        if (stop->Group()) {
+            if (m_focused && stop->Group() == m_focused->Group()) continue;
+            const Stops group = GroupOf(*stop);
+            const auto selected = std::find_if(
+                group.begin(), group.end(), [](auto* button) { return button->Facts().state & STATE_SYSTEM_CHECKED; });
+            stop = selected != group.end() ? *selected : group.front();
+        }
+        MoveTo(*stop);
+        return;
+    }
+}
+
+void CFocusRing::Choose(int direction) {
+    const Stops group = GroupOf(*m_focused);
+    const int count = static_cast<int>(group.size());
+    const int index = static_cast<int>(std::find(group.begin(), group.end(), m_focused) - group.begin());
+    CSkinControl* next = group[static_cast<std::size_t>((index + direction + count) % count)];
+    if (next == m_focused) return;
+    MoveTo(*next);
+    next->Activate();
+}
+
+void CFocusRing::MoveTo(CSkinControl& control) {
+    ShowMark();
+    Focus(&control);
+    TakeSystemFocus();
+    if (const HWND window = control.FocusWindow()) {
+        if (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) ::SendMessageW(window, EM_SETSEL, 0, -1);
+    }
+    m_dialog.OnFocusMoved(control);
+}
+
+void CFocusRing::Focus(CSkinControl* control) {
+    if (control == m_focused) return;
+    InvalidateMark();
+    m_focused = control;
+    m_wheel = 0;
+    InvalidateMark();
+    if (control && !control->FocusWindow()) m_dialog.ControlChanged(*control, EVENT_OBJECT_FOCUS);
+}
+
+void CFocusRing::TakeSystemFocus() {
+    const HWND window = m_focused && m_focused->FocusWindow() ? m_focused->FocusWindow() : m_dialog.GetSafeHwnd();
+    if (::GetFocus() != window) ::SetFocus(window);
+}
+
+void CFocusRing::Adopt(HWND window) {
+    for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
+        if (entry.control->FocusWindow() == window) Focus(entry.control);
+    }
+}
+
+bool CFocusRing::KeepsSystemFocus() const { return m_markShown && m_focused && !m_focused->FocusWindow(); }
+
+void CFocusRing::Repair() {
+    if (m_focused && !m_focused->TakesFocus()) {
+        const Stops stops = InScreenOrder();
+        const auto current = std::find(stops.begin(), stops.end(), m_focused);
+        const auto canHaveIt = [](auto* stop) { return stop->TakesFocus(); };
+        auto next = std::find_if(current, stops.end(), canHaveIt);
+        if (next == stops.end()) next = std::find_if(stops.begin(), stops.end(), canHaveIt);
+        Focus(next == stops.end() ? nullptr : *next);
+    }
+    // A disabled window loses the system's focus to nobody, and the dialog would be deaf.
+    const HWND focus = ::GetFocus();
+    if ((!focus || !::IsWindowEnabled(focus)) && ::GetActiveWindow() == m_dialog.GetSafeHwnd()) TakeSystemFocus();
+}
+
+void CFocusRing::TurnWheel(int delta, CPoint point) {
+    if (!m_focused || !m_focused->TakesFocus() || !m_focused->Bounds().PtInRect(point) ||
+        m_focused->Facts().role != ROLE_SYSTEM_SLIDER) {
+        m_wheel = 0;
+        return;
+    }
+    for (m_wheel += delta; m_wheel >= WHEEL_DELTA; m_wheel -= WHEEL_DELTA) m_focused->HandleKey(VK_UP);
+    for (; m_wheel <= -WHEEL_DELTA; m_wheel += WHEEL_DELTA) m_focused->HandleKey(VK_DOWN);
+}
+
+void CFocusRing::ShowMark() {
+    if (m_markShown) return;
+    m_markShown = true;
+    m_dialog.SendMessage(WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS));
+    InvalidateMark();
+}
+
+void CFocusRing::InvalidateMark() const {
+    if (!m_focused || !m_markShown) return;
+    const CRect outer = FocusMarkAround(m_focused->Bounds());
+    const CRect inner = m_focused->Bounds();
+    const CRegionHandle ring{::CreateRectRgnIndirect(outer)};
+    const CRegionHandle hole{::CreateRectRgnIndirect(inner)};
+    ::CombineRgn(ring.Get(), ring.Get(), hole.Get(), RGN_DIFF);
+    ::InvalidateRgn(m_dialog.GetSafeHwnd(), ring.Get(), TRUE);
+}
+
+void CFocusRing::DrawMark(const CRect& area) const {
+    if (!m_focused || !m_markShown) return;
+    const CRect mark = FocusMarkAround(m_focused->Bounds());
+    CRect touched;
+    if (touched.IntersectRect(mark, area)) DrawFocusMark(CBorrowedDC(m_dialog.GetSafeHwnd()), m_focused->Bounds());
+}

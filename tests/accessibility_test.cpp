@@ -1,0 +1,284 @@
+// The dialogs as a screen reader sees them, through the system's oleacc.
+#include <cmath>
+#include <map>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include "area_dialog_rows.h"
+#include "plain_dialog_rows.h"
+#include "skin/skin_check_box.h"
+#include "skin/skin_message_box.h"
+#include "skin/skin_radio_button.h"
+#include "skin/skin_slider.h"
+#include "support/accessible_client.h"
+#include "support/dialog_session.h"
+#include "support/kit_dialog.h"
+
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+struct Announced {
+    DWORD event;
+    LONG child;
+    bool operator==(const Announced&) const = default;
+};
+std::vector<Announced> g_announced;
+
+void CALLBACK Announce(HWINEVENTHOOK, DWORD event, HWND, LONG object, LONG child, DWORD, DWORD) {
+    if (object == OBJID_CLIENT && child != CHILDID_SELF) g_announced.push_back({event, child});
+}
+
+long Find(const AccessibleClient& client, const std::wstring& name) {
+    for (long child = 1; child <= client.Count(); ++child) {
+        if (client.Name(child) == name) return child;
+    }
+    ADD_FAILURE() << "nothing has this name";
+    return 0;
+}
+
+TEST(Accessibility, EveryControlOfEveryDialogSaysWhatItIs) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
+    std::vector<DialogRow> rows = PlainDialogRows();
+    for (DialogRow& row : AreaDialogRows()) rows.push_back(std::move(row));
+    for (const DialogRow& row : rows) {
+        Session session(row.effect.id, row.openings.front().record);
+        session.Run([&](DialogDriver& dialog) {
+            SCOPED_TRACE(row.effect.name);
+            const Apartment own(COINIT_MULTITHREADED);
+            const AccessibleClient client(dialog.Window());
+            EXPECT_EQ(client.Name(CHILDID_SELF), dialog.Title());
+            EXPECT_EQ(client.Role(CHILDID_SELF), ROLE_SYSTEM_DIALOG);
+            Names labels;
+            std::set<std::wstring> sliders;
+            std::set<std::wstring> edits;
+            for (long child = 1; child <= client.Count(); ++child) {
+                const std::wstring name = client.Name(child);
+                const long role = client.Role(child);
+                const CRect place = client.Place(child, dialog.Window());
+                if (client.State(child) & STATE_SYSTEM_INVISIBLE) continue;
+                SCOPED_TRACE(child);
+                if (role == ROLE_SYSTEM_STATICTEXT || role == ROLE_SYSTEM_CHECKBUTTON) labels.push_back(name);
+                if (role == ROLE_SYSTEM_STATICTEXT) continue;
+                EXPECT_NE(name, L"");
+                EXPECT_TRUE(dialog.ClientRect().right > place.right && dialog.ClientRect().bottom > place.bottom);
+                EXPECT_EQ(client.Help(child).empty(), role == ROLE_SYSTEM_PUSHBUTTON && name != L"Set Color...");
+                if (role == ROLE_SYSTEM_SLIDER || role == ROLE_SYSTEM_TEXT) {
+                    EXPECT_NE(std::find(labels.begin(), labels.end(), name), labels.end());
+                    EXPECT_TRUE((role == ROLE_SYSTEM_SLIDER ? sliders : edits).insert(name).second) << "one label each";
+                    // Its window says the same.
+                    const HWND window = ::ChildWindowFromPoint(dialog.Window(), place.CenterPoint());
+                    EXPECT_EQ(AccessibleClient(window).Name(CHILDID_SELF), name);
+                    EXPECT_EQ(AccessibleClient(window).Value(CHILDID_SELF), client.Value(child));
+                    EXPECT_NE(client.Value(child), L"");
+                } else if (role != ROLE_SYSTEM_COMBOBOX && role != ROLE_SYSTEM_GRAPHIC) {
+                    EXPECT_NE(client.Action(child), L"");
+                }
+            }
+            EXPECT_EQ(sliders.size(), row.controls.sliders.size());
+        });
+    }
+}
+
+TEST(Accessibility, SlidersAndEditsAreNamedByTheirLabels) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
+    const struct {
+        EffectId effect;
+        Record record;
+        Names names;
+    } rows[] = {{EffectId::Deblocking,
+                 {1, 1, 63, 1, 2, 3, 4},
+                 {L"Deblocking Algorithm:", L"X", L"Y", L"Width", L"Height", L"Edge Threshold(Preserve to Smooth):"}},
+                {EffectId::Aging,
+                 Record(25, 1),
+                 {L"Maximum number of scratches(0 - 100):", L"Left", L"Top", L"Right", L"Bottom",
+                  L"Scratch height(1 - 1600):", L"Dust density(0 - 100):", L"Pits density(0 - 100):"}}};
+    for (const auto& row : rows) {
+        Session session(row.effect, row.record);
+        session.Run([&](DialogDriver& dialog) {
+            const Apartment own(COINIT_MULTITHREADED);
+            const AccessibleClient client(dialog.Window());
+            Names names;
+            for (long child = 1; child <= client.Count(); ++child) {
+                const long role = client.Role(child);
+                if (role == ROLE_SYSTEM_SLIDER || role == ROLE_SYSTEM_TEXT || role == ROLE_SYSTEM_COMBOBOX) {
+                    names.push_back(client.Name(child));
+                }
+            }
+            EXPECT_EQ(names, row.names);
+        });
+    }
+}
+
+TEST(Accessibility, ActionsWorkAndChangesAreAnnounced) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
+    Session session(EffectId::GammaCorrection, {1, 100});
+    session.Run([&](DialogDriver& dialog) {
+        const Apartment own(COINIT_MULTITHREADED);
+        const AccessibleClient client(dialog.Window());
+        const long enable = Find(client, L"Enable");
+        const long slider = Find(client, L"Gamma factor (1 - 500):") + 1;
+        const DWORD thread = ::GetWindowThreadProcessId(dialog.Window(), nullptr);
+        const HWINEVENTHOOK hook = ::SetWinEventHook(
+            EVENT_OBJECT_FOCUS, EVENT_OBJECT_VALUECHANGE, nullptr, &Announce, 0, thread, WINEVENT_OUTOFCONTEXT);
+        const auto announced = [&] {
+            dialog.Settle();
+            MSG message;
+            for (int round = 0; round < 20; ++round, ::Sleep(2)) {
+                while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+            }
+            return std::exchange(g_announced, {});
+        };
+        const auto was = [](const std::vector<Announced>& events, const Announced& event) {
+            return std::find(events.begin(), events.end(), event) != events.end();
+        };
+        announced();
+        session.Pushes();
+        EXPECT_EQ(client.State(enable) & STATE_SYSTEM_CHECKED, STATE_SYSTEM_CHECKED);
+        EXPECT_EQ(client.Shortcut(enable), L"Alt+E");
+        EXPECT_EQ(client.Act(enable), S_OK);
+        std::vector<Announced> events = announced();
+        EXPECT_TRUE(was(events, {EVENT_OBJECT_STATECHANGE, enable}));
+        EXPECT_TRUE(was(events, {EVENT_OBJECT_STATECHANGE, slider})) << "disabled";
+        EXPECT_EQ(session.Pushes(), "SetGammaParams(100, 0, 0, 0)");
+        EXPECT_EQ(client.State(enable) & STATE_SYSTEM_CHECKED, 0);
+        EXPECT_EQ(client.State(slider) & STATE_SYSTEM_UNAVAILABLE, STATE_SYSTEM_UNAVAILABLE);
+        EXPECT_NE(client.Act(slider), S_OK);
+        client.Act(enable);
+        announced();
+
+        EXPECT_EQ(client.Object()->accSelect(SELFLAG_TAKEFOCUS, AccessibleClient::Child(slider)), S_OK);
+        EXPECT_TRUE(was(announced(), {EVENT_OBJECT_FOCUS, slider}));
+        EXPECT_EQ(client.Focused(), slider);
+        EXPECT_EQ(client.State(slider) & STATE_SYSTEM_FOCUSED, STATE_SYSTEM_FOCUSED);
+        session.Pushes();
+        const BSTR number = ::SysAllocString(L"333");
+        EXPECT_EQ(client.Object()->put_accValue(AccessibleClient::Child(slider), number), S_OK);
+        ::SysFreeString(number);
+        EXPECT_EQ(session.Pushes(), "SetGammaParams(333, 1, 0, 0)");
+        EXPECT_TRUE(was(announced(), {EVENT_OBJECT_VALUECHANGE, slider}));
+        EXPECT_EQ(client.Value(slider), L"333");
+
+        VARIANT hit;
+        ::VariantInit(&hit);
+        POINT at{200, 360};
+        ::ClientToScreen(dialog.Window(), &at);
+        EXPECT_EQ(client.Object()->accHitTest(at.x, at.y, &hit), S_OK);
+        EXPECT_EQ(hit.lVal, slider);
+        ::UnhookWinEvent(hook);
+        client.Act(Find(client, L"OK"));
+        EXPECT_TRUE(DialogDriver::WaitFor([&] { return !dialog.IsOpen(); }));
+        // What is left of the dialog answers, but knows nothing.
+        EXPECT_EQ(client.Name(enable), L"");
+        EXPECT_TRUE(FAILED(client.Act(enable)));
+    });
+    EXPECT_EQ(session.record, (Record{1, 333}));
+}
+
+TEST(Accessibility, AnObjectOutlivesItsDialogOnTheSameThread) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
+    CSkinCheckBox box;
+    ComPtr<IAccessible> kept;
+    CKitDialog dialog([&](CKitDialog& parent) { Put(parent, box, L"Box", CRect(50, 100, 150, 120), 77); });
+    dialog.Run([&](DialogDriver& driver) {
+        dialog.Do([&] {
+            const AccessibleClient client(driver.Window());
+            EXPECT_EQ(client.Role(4), ROLE_SYSTEM_CHECKBUTTON);
+            EXPECT_EQ(
+                client.Object()->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void**>(kept.GetAddressOf())),
+                S_OK);
+        });
+    });
+    long count = 0;
+    EXPECT_EQ(kept->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(kept->accDoDefaultAction(AccessibleClient::Child(4)), CO_E_OBJNOTCONNECTED);
+}
+
+TEST(Accessibility, TheMessageBoxReadsItsTextOut) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
+    CSkinMessageBox box(L"Error!", L"Not so.");
+    RunDialog([&] { box.DoModal(); },
+              [&](DialogDriver& driver) {
+                  const Apartment own(COINIT_MULTITHREADED);
+                  const AccessibleClient client(driver.Window());
+                  EXPECT_EQ(client.Name(CHILDID_SELF), L"Error!");
+                  const long text = Find(client, L"Message");
+                  EXPECT_EQ(client.Value(text), L"Not so.");
+                  EXPECT_EQ(client.State(text) & STATE_SYSTEM_READONLY, STATE_SYSTEM_READONLY);
+                  EXPECT_EQ(client.Focused(), text) << "the arrows scroll it from the start";
+                  client.Act(Find(client, L"OK"));
+                  EXPECT_TRUE(DialogDriver::WaitFor([&] { return !driver.IsOpen(); }));
+              });
+}
+
+double Luminance(COLORREF color) {
+    // As the web's contrast guidelines have it.
+    const auto linear = [](BYTE channel) {
+        const double part = channel / 255.0;
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
+}
+
+TEST(HighContrast, TextAndMarksStandOutFromTheSystemsGround) {
+    CSkinButton button;
+    CSkinCheckBox box;
+    CSkinRadioButton radio;
+    CSkinStatic label;
+    CVelComboListBox combo;
+    CSkinSlider slider;
+    const CRect places[] = {{50, 60, 150, 80},   {50, 100, 150, 120}, {50, 140, 150, 160},
+                            {50, 180, 150, 200}, {50, 220, 150, 240}, {50, 260, 150, 280}};
+    CKitDialog dialog([&](CKitDialog& parent) {
+        Put(parent, button, L"Button", places[0], 71);
+        Put(parent, box, L"Box", places[1], 72);
+        Put(parent, radio, L"Radio", places[2], 73);
+        Put(parent, label, L"Label", places[3], 74);
+        combo.Create(&parent, places[4], 75);
+        combo.SetText(L"Row");
+        parent.AddControl(combo);
+        slider.Create(WS_CHILD | WS_VISIBLE, places[5], &parent, 76);
+        parent.AddControl(slider);
+        box.SetChecked(true);
+        radio.SetChecked(true);
+    });
+    dialog.Run([&](DialogDriver& driver) {
+        const RECT client = driver.ClientRect();
+        const unsigned long before = driver.PixelSum(client);
+        const auto show = [&](bool contrast) {
+            dialog.Do([&] {
+                SetHighContrast(contrast);
+                dialog.ShowContrast();
+            });
+            driver.Settle();
+        };
+        show(true);
+        std::vector<CRect> looked(std::begin(places), std::end(places));
+        looked.emplace_back(5, 5, 100, 30);  // The title.
+        const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+        const double groundLight = Luminance(ground) + 0.05;
+        for (const CRect& place : looked) {
+            std::map<COLORREF, int> colors;
+            double best = 1;
+            for (int y = place.top; y < place.bottom; ++y) {
+                for (int x = place.left; x < place.right; ++x) {
+                    const COLORREF color = driver.Pixel(x, y);
+                    ++colors[color];
+                    const double light = Luminance(color) + 0.05;
+                    best = (std::max)(best, (std::max)(light / groundLight, groundLight / light));
+                }
+            }
+            const auto most = std::max_element(
+                colors.begin(), colors.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+            EXPECT_EQ(most->first, ground) << place.top;
+            EXPECT_GE(best, 4.5) << place.top;
+        }
+        show(false);
+        EXPECT_EQ(driver.PixelSum(client), before) << "off, nothing has changed";
+    });
+}
+
+}  // namespace
