@@ -7,10 +7,13 @@ namespace {
 class DisabledWindow {
 public:
     explicit DisabledWindow(HWND window) : m_window(window && ::IsWindowEnabled(window) ? window : nullptr) {
-        if (m_window) ::EnableWindow(m_window, FALSE);
+        Disable();
     }
     ~DisabledWindow() {
         if (m_window) ::EnableWindow(m_window, TRUE);
+    }
+    void Disable() const {
+        if (m_window) ::EnableWindow(m_window, FALSE);
     }
     DisabledWindow(const DisabledWindow&) = delete;
     DisabledWindow& operator=(const DisabledWindow&) = delete;
@@ -55,6 +58,9 @@ INT_PTR CDialog::DoModal() {
         m_running = true;
         try {
             created = CreateFor(owner);
+            // A message box of the new dialog may have enabled them when it went.
+            topOwnerDisabled.Disable();
+            ownerDisabled.Disable();
             if (created) RunModalLoop();
         } catch (...) {
             m_result = -1;  // A message filter threw; window procedures let nothing through.
