@@ -167,7 +167,7 @@ private:
 
     explicit CWnd(HWND place) : m_hWnd(place) {}
     static LRESULT CALLBACK ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void Attach(HWND window);
+    bool Attach(HWND window);
     void Detach();
     const AFX_MSGMAP_ENTRY* FindHandler(UINT message, UINT code, UINT id) const;
     BOOL ChangeStyle(int which, DWORD remove, DWORD add, UINT flags);

@@ -73,16 +73,17 @@ CreationHook::~CreationHook() {
 
 LRESULT CALLBACK CreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam) {
     const LRESULT refused = ::CallNextHookEx(nullptr, code, wParam, lParam);
-    CreationHook& hook = *CurrentThread().creationHook;
+    CreationHook* hook = CurrentThread().creationHook;  // Null when a hook could not be taken away.
     const auto window = reinterpret_cast<HWND>(wParam);
     // The system may create an input method's window first.
-    if (code != HCBT_CREATEWND || refused || !hook.m_waiting || IsImeWindow(window)) return refused;
+    if (code != HCBT_CREATEWND || refused || !hook || !hook->m_waiting || IsImeWindow(window)) return refused;
     try {
-        std::exchange(hook.m_waiting, nullptr)->Attach(window);
-        hook.m_attached = window;
+        // No window rather than one without its object.
+        if (!std::exchange(hook->m_waiting, nullptr)->Attach(window)) return 1;
+        hook->m_attached = window;
         return 0;
     } catch (...) {
-        return 1;  // No window rather than one without its object.
+        return 1;
     }
 }
 
@@ -116,11 +117,16 @@ CWnd::~CWnd() {
 
 CWnd* CWnd::FromHandlePermanent(HWND window) { return Windows().Find(window); }
 
-void CWnd::Attach(HWND window) {
+bool CWnd::Attach(HWND window) {
     Windows().Insert(window, this);
-    m_hWnd = window;
     m_superProc = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
+    if (m_superProc) {
+        m_hWnd = window;
+    } else {
+        Windows().Erase(window);
+    }
+    return m_superProc != nullptr;
 }
 
 void CWnd::Detach() {
