@@ -118,7 +118,9 @@ void CEffectSettingsDlg::SyncAndApply() {
 
 LRESULT CEffectSettingsDlg::OnSliderChange(WPARAM wParam, LPARAM) {
     const auto* info = reinterpret_cast<const SliderChangeInfo*>(wParam);
-    if (!info) return 0;
+    // Anybody may send the message: none but a slider of this dialog is listened to.
+    const auto isSender = [info](const Entry& entry) { return entry.control == info->sender; };
+    if (!info || std::none_of(Controls().begin(), Controls().end(), isSender)) return 0;
     if (info->code == SliderCode::Dragged || info->code == SliderCode::TrackClicked) {
         info->sender->SetPosition(info->proposed);
         info->sender->ShowPosition();
