@@ -7,5 +7,9 @@
 
 class CRichEditCtrl : public CWnd {
 public:
+    ~CRichEditCtrl() override;
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+private:
+    HMODULE m_library = nullptr;  // Has the window class.
 };

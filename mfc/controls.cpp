@@ -1,7 +1,16 @@
 // The system's controls, and its dialogs.
+#include <string>
+
 #include "afxcmn.h"
 #include "afxdlgs.h"
 #include "afxwin.h"
+#include "atlcore.h"
+
+HMODULE ATL::AtlLoadSystemLibraryUsingFullPath(const WCHAR* name) {
+    WCHAR folder[MAX_PATH] = {};
+    const UINT length = ::GetSystemDirectoryW(folder, MAX_PATH);
+    return length && length < MAX_PATH ? ::LoadLibraryW((std::wstring(folder) + L'\\' + name).c_str()) : nullptr;
+}
 
 void CListBox::GetText(int index, CString& text) const {
     const int length = GetTextLen(index);
@@ -28,9 +37,13 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM, LPARAM lParam, LRESULT* resul
 }
 
 BOOL CRichEditCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
-    // Stays loaded: its window class is needed as long as the module is.
-    static const HMODULE library = ::LoadLibraryW(L"riched20.dll");
-    return library && CWnd::Create(RICHEDIT_CLASSW, L"", style, rect, parent, id);
+    if (!m_library) m_library = ATL::AtlLoadSystemLibraryUsingFullPath(L"riched20.dll");
+    return m_library && CWnd::Create(RICHEDIT_CLASSW, L"", style, rect, parent, id);
+}
+
+CRichEditCtrl::~CRichEditCtrl() {
+    CWnd::DestroyWindow();  // Its class goes with the library.
+    if (m_library) ::FreeLibrary(m_library);
 }
 
 CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags, LPCWSTR filter,

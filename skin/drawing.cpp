@@ -1,5 +1,7 @@
 #include "skin/drawing.h"
 
+#include <atlcore.h>
+
 #include "skin/fonts.h"
 
 CMemoryDC::CMemoryDC(HDC compatible, HBITMAP bitmap)
@@ -35,7 +37,7 @@ void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bott
     using GradientFillFunction = decltype(&::GradientFill);
     // Never unloaded: the library needs it as long as it can draw.
     static const GradientFillFunction gradientFill = [] {
-        const HMODULE library = ::LoadLibraryW(L"msimg32.dll");
+        const HMODULE library = ATL::AtlLoadSystemLibraryUsingFullPath(L"msimg32.dll");
         const FARPROC found = library ? ::GetProcAddress(library, "GradientFill") : nullptr;
         return reinterpret_cast<GradientFillFunction>(reinterpret_cast<void*>(found));
     }();
