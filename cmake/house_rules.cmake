@@ -14,6 +14,15 @@ else()
     target_link_options(house_rules INTERFACE -static -Wl,--no-insert-timestamp)
 endif()
 
+# With mingw and 64 bits only.
+option(EFFECT_SETTINGS_CHECKED "Stop at undefined behaviour and at bad accesses to memory" OFF)
+if(EFFECT_SETTINGS_CHECKED)
+    target_compile_options(house_rules INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined
+                           -fsanitize-undefined-trap-on-error>)
+    # Each module has allocations of its own.
+    set(guard_pages ${CMAKE_SOURCE_DIR}/tests/guard_pages.cpp)
+endif()
+
 # A library of our own sources; the kind is STATIC or OBJECT.
 function(effect_settings_library name kind)
     add_library(${name} ${kind} ${ARGN})

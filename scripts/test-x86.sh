@@ -1,15 +1,15 @@
 # Sourced by ./test --x86: makes a 32-bit Debian with Wine once and mounts what its programs need.
-# Debian's 64-bit Wine cannot run 32-bit programs.
+# Debian's 64-bit Wine cannot run 32-bit programs. Where it can't be made, the status is 77.
 x86_root=$root/build/x86-root
 ((EUID == 0)) || {
     echo "./test --x86 has to run as root: it mounts file systems." >&2
-    exit 1
+    exit 77
 }
 # In a mount namespace of its own, nothing stays mounted, and deleting build/ never reaches into the mounts.
 if [[ ! ${EFFECT_SETTINGS_UNSHARED:-} ]]; then
     export EFFECT_SETTINGS_UNSHARED=1
     exec {prefix_lock}>&- # The same command takes its prefix again.
-    exec unshare --mount "$root/test" --x86 "$@"
+    exec unshare --mount "$root/test" "${given[@]}"
 fi
 
 exec {x86_lock}>build/x86-root.lock
@@ -23,7 +23,7 @@ if [[ ! -f $x86_root/.ready ]]; then
     debootstrap --variant=minbase --arch=i386 --include=wine32,wine,fonts-liberation bookworm "$x86_root" \
         ${mirror:+"$mirror"} >build/x86-root.log 2>&1 || {
         tail -n 20 build/x86-root.log >&2
-        exit 1
+        exit 77
     }
 fi
 mkdir -p "$x86_root$root/build/x86/bin"
@@ -34,7 +34,7 @@ if [[ ! -f $x86_root/.ready ]]; then
     say "Making its Wine prefix"
     (start_display && set_up_prefix scripts/run-wine --x86) >>build/x86-root.log 2>&1 </dev/null || {
         tail -n 20 build/x86-root.log >&2
-        exit 1
+        exit 77
     }
     touch "$x86_root/.ready"
 fi

@@ -40,6 +40,7 @@ struct HostOptions {
     bool givesAllList = true;
     bool givesActiveList = true;
     bool givesProcessor = true;
+    bool settersFail = false;      ///< All setters of the filter; 64-bit programs only.
     bool isActiveAlready = false;  ///< The filter stands in the chain before the dialog opens.
 };
 
@@ -73,6 +74,7 @@ public:
 
 private:
     class List;
+    class Processor;
 
     HRESULT Give(const char* call, bool allowed, List& list, IProcessorList** given);
 
@@ -81,6 +83,7 @@ private:
     ComPtr<IDemoFilter> m_filter;
     std::unique_ptr<List> m_all;
     std::unique_ptr<List> m_active;
+    std::unique_ptr<Processor> m_processor;
     std::wstring m_lastMoniker;
     HWND m_previewWindow = nullptr;
     unsigned m_refreshedAt = 0;

@@ -1,16 +1,26 @@
 // The one record of what host, lists and filters were asked, in order.
 #pragma once
 
+#include <functional>
 #include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
 
+/// How a call ends. Calls without a result parameter can only fail.
+enum class Reply { Normal, Error, Null, Untouched };
+
 class Trace {
 public:
-    void Add(std::string line) {
-        const std::lock_guard lock(m_mutex);
-        m_lines.push_back(std::move(line));
+    /// Asked before each call does anything; may do whatever a host might, and throw.
+    std::function<Reply(const std::string& line)> onCall;
+
+    Reply Add(std::string line) {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_lines.push_back(line);
+        }
+        return onCall ? onCall(line) : Reply::Normal;
     }
     /// What was added since the last call.
     std::vector<std::string> Take() {

@@ -1,0 +1,198 @@
+// What hosts and filters may do wrong at any of their calls: fail, give nothing, throw, destroy, quit, pump, call again.
+#include <atomic>
+#include <stdexcept>
+#include <thread>
+
+#include "cases.h"
+#include "visit.h"
+
+namespace {
+
+Visit UsualVisit(const EffectRecords& effect) { return {.effect = effect.effect, .record = effect.records.front()}; }
+
+void Pump() {
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+    }
+}
+
+void VisitAnother(bool hasHost) {
+    const EffectRecords& other = AllEffects()[3];
+    const Outcome inner =
+        Visit{.effect = other.effect, .record = other.records.front(), .actions = {}, .hasHost = hasHost}.Run();
+    Check(inner.openReferences == 0 && inner.record == other.records.front(), "the inner call leaves something behind");
+}
+
+void VisitAnotherOnAThread() {
+    std::atomic<bool> done = false;
+    std::thread thread([&] {
+        VisitAnother(false);
+        done = true;
+    });
+    // A thread that does not answer would stop the other's windows from taking the activation.
+    while (!done) {
+        Pump();
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+    thread.join();
+}
+
+/// What may come out of a visit with one fault, when all went as planned without it.
+enum class Expected {
+    Any,        ///< The dialog refuses with -1 or works to its end; what stays in the chain is the host's own fault.
+    AsUsual,    ///< The caller gets what it gets without the fault.
+    Accepted,   ///< The user goes on in the fault's own loop: OK saves what the controls show then.
+    Destroyed,  ///< -1 and an unwritten record, unless OK was there first; nothing stays in the chain.
+    Saved,      ///< OK was pressed first: 1 and a written record.
+    Cancelled,
+};
+
+struct Fault {
+    const char* name;
+    Expected expected;
+    bool onlySetters;
+    Reply (*happen)(RecordingHost& host);
+};
+
+Reply DestroyDialog(RecordingHost& host) {
+    ::DestroyWindow(DialogOf(host));
+    return Reply::Normal;
+}
+Reply DestroyOwner(RecordingHost&) {
+    ::DestroyWindow(OwnerWindow());
+    return Reply::Normal;
+}
+Reply PumpThenDestroy(RecordingHost& host) {
+    ::PostMessageW(DialogOf(host), WM_CLOSE, 0, 0);
+    Pump();
+    ::DestroyWindow(DialogOf(host));
+    Pump();
+    return Reply::Normal;
+}
+Reply Quit(RecordingHost&) {
+    ::PostQuitMessage(0);
+    return Reply::Normal;
+}
+template <void (*First)(HWND), void (*Second)(HWND)>
+Reply AnswerTwice(RecordingHost& host) {
+    First(DialogOf(host));
+    Second(DialogOf(host));
+    Pump();
+    return Reply::Normal;
+}
+
+const Fault kFaults[] = {
+    {"an error", Expected::Any, false, [](RecordingHost&) { return Reply::Error; }},
+    {"null", Expected::Any, false, [](RecordingHost&) { return Reply::Null; }},
+    {"untouched", Expected::Any, false, [](RecordingHost&) { return Reply::Untouched; }},
+    {"an exception", Expected::Any, true, [](RecordingHost&) -> Reply { throw std::runtime_error("setter"); }},
+    {"destroys the dialog", Expected::Destroyed, false, DestroyDialog},
+    {"destroys the owner", Expected::Destroyed, false, DestroyOwner},
+    {"quits", Expected::Destroyed, false, Quit},
+    {"pumps", Expected::Accepted, false,
+     [](RecordingHost&) {
+         Pump();
+         return Reply::Normal;
+     }},
+    {"closes, pumps and destroys", Expected::Any, true, PumpThenDestroy},
+    {"OK and then Cancel in its own loop", Expected::Saved, true, AnswerTwice<PressOk, PressCancel>},
+    {"Cancel and then OK in its own loop", Expected::Cancelled, true, AnswerTwice<PressCancel, PressOk>},
+    {"opens another", Expected::AsUsual, false,
+     [](RecordingHost&) {
+         VisitAnother(true);
+         return Reply::Normal;
+     }},
+    {"opens another without a host", Expected::AsUsual, false,
+     [](RecordingHost&) {
+         VisitAnother(false);
+         return Reply::Normal;
+     }},
+    {"a call without a host from another thread", Expected::Accepted, false,
+     [](RecordingHost&) {
+         VisitAnotherOnAThread();
+         return Reply::Normal;
+     }},
+};
+
+bool IsSetter(const std::string& call) { return call.starts_with("filter."); }
+
+void CheckOutcome(const Visit& visit, const Outcome& outcome, const Outcome& usual, Expected expected) {
+    Check(outcome.openReferences == 0, "references stay open: " + std::to_string(outcome.openReferences));
+    Check(outcome.windowsLeft <= 0, "windows stay");
+    const bool saved = outcome.result == kSettingsAccepted;
+    Check(outcome.record == visit.record || saved, "the record is written without OK");
+    if (expected == Expected::Any) return;
+    Check(outcome.activeCount == 0, "the filter stays in the chain");
+    switch (expected) {
+        case Expected::AsUsual:
+            Check(outcome.result == usual.result && outcome.record == usual.record,
+                  "another result or record than usual: " + std::to_string(outcome.result));
+            break;
+        case Expected::Accepted:
+            Check(outcome.result == usual.result, "another result than usual: " + std::to_string(outcome.result));
+            break;
+        case Expected::Saved:
+            Check(saved, "the first answer was OK, the result is " + std::to_string(outcome.result));
+            break;
+        case Expected::Cancelled:
+            Check(outcome.result == kSettingsCancelled,
+                  "the first answer was Cancel, the result is " + std::to_string(outcome.result));
+            break;
+        default:
+            Check(outcome.result == kSettingsNotCreated || outcome.result == usual.result, "a wrong result");
+    }
+}
+
+/// Every fault at every call of one effect; a short run takes a part of them, another for each effect.
+void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
+    Try("a usual visit");
+    Visit visit = UsualVisit(effect);
+    Lines calls;
+    visit.onCall = [&](RecordingHost&, int, const std::string& line) {
+        calls.push_back(line);
+        return Reply::Normal;
+    };
+    const Outcome usual = visit.Run();
+    Check(usual.result == kSettingsAccepted && usual.openReferences == 0 && usual.activeCount == 0, "is not usual");
+
+    const std::size_t stride = settings.isLong ? 1 : effect.effect == EffectId::GammaCorrection ? 5 : 61;
+    std::size_t turn = static_cast<std::size_t>(effect.effect) * 7 + settings.seed;
+    for (int at = 0; at < static_cast<int>(calls.size()); ++at) {
+        const std::string& call = calls[static_cast<std::size_t>(at)];
+        for (const Fault& fault : kFaults) {
+            if ((fault.onlySetters && !IsSetter(call)) || turn++ % stride) continue;
+            Try("call " + std::to_string(at) + " (" + call + "): " + fault.name);
+            visit.onCall = [&](RecordingHost& host, int number, const std::string&) {
+                return number == at ? fault.happen(host) : Reply::Normal;
+            };
+            CheckOutcome(visit, visit.Run(), usual, fault.expected);
+            visit.onCall = nullptr;
+            const Outcome next = visit.Run();
+            Check(next.calls == usual.calls && next.result == usual.result && next.record == usual.record,
+                  "the next opening differs");
+        }
+    }
+    Try("all setters fail");
+    if constexpr (sizeof(void*) == 8) {
+        visit.options.settersFail = true;
+        visit.onCall = nullptr;
+        CheckOutcome(visit, visit.Run(), usual, Expected::AsUsual);
+    }
+}
+
+}  // namespace
+
+std::vector<Case> CallFaultCases() {
+    std::vector<Case> cases;
+    for (const EffectRecords& effect : AllEffects()) {
+        cases.push_back({"calls." + std::to_string(static_cast<int>(effect.effect)),
+                         [&effect](const Settings& settings) { FailAtEveryCall(effect, settings); }});
+    }
+    return cases;
+}
