@@ -1,6 +1,9 @@
 // The least that a dialog needs to come up with a filter: a host, its lists and one filter in one object each.
 #pragma once
 
+#include <vector>
+
+#include "benchmarks/samples.h"
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/media_host.h"
 
@@ -23,13 +26,17 @@ struct StubFilter : Immortal<IEffectGammaCorrection> {
         return known ? S_OK : E_NOINTERFACE;
     }
     HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams params) override {
-        last = params;
-        ++pushes;
+        pushes.push_back({NowMs(), params.value});
+        if (pushMs) ::Sleep(pushMs);
         return S_OK;
     }
 
-    GammaParams last{};
-    int pushes = 0;
+    struct Push {
+        double at;
+        int value;
+    };
+    std::vector<Push> pushes;
+    DWORD pushMs = 0;  ///< How long each takes.
 };
 
 struct StubList : Immortal<IProcessorList> {
