@@ -33,6 +33,7 @@ void RemoveFrom(IProcessorList& list, BSTR moniker) {
 }
 
 int Attach(IMediaHost** host, BSTR moniker, ListGetter getAll, ListGetter getActive) {
+    if (!moniker) return 0;  // There was no memory for it.
     ChainLists lists;
     if (!lists.Get(host, getAll, getActive)) return 0;
     // What is in the chain already is taken out and put in again, so it is never there twice.
@@ -48,6 +49,7 @@ int Attach(IMediaHost** host, BSTR moniker, ListGetter getAll, ListGetter getAct
 }
 
 int Detach(IMediaHost** host, BSTR moniker, ListGetter getAll, ListGetter getActive) {
+    if (!moniker) return 0;
     ChainLists lists;
     if (!lists.Get(host, getAll, getActive)) return 0;
     RemoveFrom(*lists.active.Get(), moniker);
