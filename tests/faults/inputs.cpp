@@ -158,7 +158,7 @@ Shot AnyShot(const std::vector<HWND>& windows, std::mt19937& random) {
 void PlayMonkey(const EffectRecords& effect, const Settings& settings) {
     std::mt19937 random(settings.seed * 131 + static_cast<unsigned>(effect.effect));
     const int bursts = settings.isLong ? 200 : 10;
-    Visit visit{.effect = effect.effect, .record = effect.records[random() % effect.records.size()], .actions = {}};
+    Visit visit{.effect = effect.effect, .record = effect.records.front(), .actions = {}};
     for (int burst = 0; burst < bursts; ++burst) {
         visit.actions.push_back([&random, burst](HWND dialog) {
             std::vector<HWND> windows{dialog};
