@@ -2,17 +2,15 @@
 
 #include <vector>
 
+#include <atlcore.h>
+
 #include "skin/skin_dialog.h"
 
 namespace {
 
 /// Stays loaded: whoever asked once asks again.
 HMODULE Oleacc() {
-    static const HMODULE library = [] {
-        WCHAR folder[MAX_PATH] = {};
-        const UINT length = ::GetSystemDirectoryW(folder, MAX_PATH);
-        return length && length < MAX_PATH ? ::LoadLibraryW(CString(folder) + L"\\oleacc.dll") : nullptr;
-    }();
+    static const HMODULE library = ATL::AtlLoadSystemLibraryUsingFullPath(L"oleacc.dll");
     return library;
 }
 
