@@ -139,7 +139,8 @@ class CAgingDlg : public CAreaDlg<EffectId::Aging> {
         CColorSwatch& color = specks.color;
         color.SetColor(static_cast<COLORREF>(m_settings->*setup.fields.color) & 0xFFFFFF);
         Bind(setup.fields.color, {.get = [&color] { return static_cast<int>(color.Color()); },
-                                  .set = [&color](int value) { color.SetColor(static_cast<COLORREF>(value)); }});
+                                  .set = [&color](int value) { color.SetColor(static_cast<COLORREF>(value)); },
+                                  .control = &color});
         Hear(setup.firstId + 8);
         const SpecksFields& fields = setup.fields;
         return addBox(specks.on, 0, fields.on, setup.on) && AddLabel(specks.line, L"") &&

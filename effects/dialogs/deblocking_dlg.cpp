@@ -18,7 +18,8 @@ class CDeblockingDlg : public CEffectDlg<EffectId::Deblocking> {
         Bind(&DeblockingSettings::algorithm,
              {.get = [this] { return m_algorithm.CurrentIndex(); },
               .set = [this](int index) { m_algorithm.SetCurrentIndex(index); },
-              .enable = [this](bool on) { m_algorithm.SetEnabled(on); }});
+              .enable = [this](bool on) { m_algorithm.SetEnabled(on); },
+              .control = &m_algorithm});
         return AddLabel(m_offsetLabel, L"First Block Offset:") && AddLabel(m_xLabel, L"X") &&
                AddLabel(m_yLabel, L"Y") && AddLabel(m_sizeLabel, L"Block Size:") && AddLabel(m_widthLabel, L"Width") &&
                AddLabel(m_heightLabel, L"Height") &&

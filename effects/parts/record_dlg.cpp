@@ -4,14 +4,16 @@ void CRecordDlg::Bind(const Field& field, const Binding& binding) { m_fields.pus
 
 bool CRecordDlg::AddEnable(const Field& field) {
     Bind(field, {.get = [this] { return m_enable.IsChecked() ? 1 : 0; },
-                 .set = [this](int value) { m_enable.SetChecked(value != 0); }});
+                 .set = [this](int value) { m_enable.SetChecked(value != 0); },
+                 .control = &m_enable});
     return CreateEnable(field.value);
 }
 
 bool CRecordDlg::AddSlider(CValueSlider& slider, const Field& field, const SliderSetup& setup) {
     Bind(field, {.get = [&slider] { return slider.Value(); },
                  .set = [&slider](int value) { slider.SetValue(value); },
-                 .enable = [&slider](bool enable) { slider.Enable(enable); }});
+                 .enable = [&slider](bool enable) { slider.Enable(enable); },
+                 .control = &slider});
     CString label;
     if (setup.label) label.Format(setup.label, setup.min, setup.max);
     return slider.Create(
@@ -27,7 +29,8 @@ bool CRecordDlg::AddSlider(CValueSlider& slider, const Field& field, const Slide
 bool CRecordDlg::AddCheckBox(CSkinCheckBox& box, const Field& field, const CheckBoxSetup& setup) {
     Bind(field, {.get = [&box] { return box.IsChecked() ? 1 : 0; },
                  .set = [&box](int value) { box.SetChecked(value != 0); },
-                 .enable = [&box](bool enable) { box.SetEnabled(enable); }});
+                 .enable = [&box](bool enable) { box.SetEnabled(enable); },
+                 .control = &box});
     box.SetChecked(field.value != 0);
     Hear(setup.id);
     return AddItem(box, setup.text, setup.id, setup.help);
@@ -44,7 +47,8 @@ bool CRecordDlg::AddRadioGroup(CRadioGroup& group, const Field& field, const Cho
 bool CRecordDlg::AddNumberEdit(CNumberEdit& edit, const Field& field, UINT id, LPCWSTR help) {
     Bind(field, {.get = [&edit] { return edit.Value(); },
                  .set = [&edit](int value) { edit.SetValue(value); },
-                 .enable = [&edit](bool enable) { edit.SetEnabled(enable); }});
+                 .enable = [&edit](bool enable) { edit.SetEnabled(enable); },
+                 .control = &edit});
     Hear(id, EN_CHANGE);
     return edit.Create(*this, id, field.value, help);
 }

@@ -14,12 +14,28 @@
 #include "skin/skin_static.h"
 
 class CRecordDlg : public CEffectSettingsDlg {
-protected:
+public:
     /// A field of the caller's record.
     struct Field {
         std::int32_t& value;
         std::int32_t standard;  ///< What "Set as default" sets.
     };
+    /// How a control holds its field's value.
+    struct Binding {
+        std::function<int()> get;
+        std::function<void(int)> set;
+        std::function<void(bool)> enable = {};  ///< Empty where the plain enable rule does not hold.
+        CSkinControl* control = nullptr;        ///< Null where several stand for the field.
+    };
+    struct BoundField {
+        Field field;
+        Binding control;
+    };
+
+    /// In the order of adding.
+    const std::vector<BoundField>& Fields() const { return m_fields; }
+
+protected:
     struct SliderSetup {
         UINT id;
         LPCWSTR label;  ///< With "%d" for the ends of the range; null where something else stands in its place.
@@ -34,12 +50,6 @@ protected:
         LPCWSTR help;
     };
     using Choices = std::vector<CRadioGroup::Choice>;
-    /// How a control that is like none of the others holds its field's value.
-    struct Binding {
-        std::function<int()> get;
-        std::function<void(int)> set;
-        std::function<void(bool)> enable = {};  ///< Empty where the plain enable rule does not hold.
-    };
 
     using CEffectSettingsDlg::CEffectSettingsDlg;
 
@@ -67,10 +77,5 @@ protected:
     static CValueSlider::Places TallRow() { return {At(20, 325, 150), At(20, 350, 430), At(460, 350, 50)}; }
 
 private:
-    struct BoundField {
-        Field field;
-        Binding control;
-    };
-
     std::vector<BoundField> m_fields;
 };

@@ -4,6 +4,7 @@ make_prefix
 start_display
 consumer=$root/build/package-test
 rm -rf "$consumer"
+mkdir -p "$consumer"
 for preset in x64 x86; do
     say "Building a host from the archive for $preset"
     unzip -q "dist/EffectSettings-"*"-$preset.zip" -d "$consumer/$preset"

@@ -1,0 +1,315 @@
+// docs/effects.json and docs/effects.md, made from the dialogs' own controls and the records' header.
+// With EFFECT_SETTINGS_WRITE_PAGES in the environment they are written; without, the committed ones have to be the same.
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <functional>
+#include <limits>
+#include <map>
+#include <regex>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include "effect_settings/effect_filters.h"
+#include "effects/parts/area_controls.h"
+#include "effects/parts/effect_dlg.h"
+#include "support/recording_host.h"
+
+namespace {
+
+struct Control {
+    UINT id = 0;
+    std::string label;
+    std::string help;
+};
+
+struct FieldRow {
+    std::string name;
+    std::size_t offset = 0;
+    std::int32_t standard = 0;
+    std::string meaning;
+    bool hasRange = false;
+    int min = 0;
+    int max = 0;
+    Control control;
+};
+
+struct EffectPage {
+    EffectId id;
+    const EffectInfo& info;
+    CLSID filterClass;
+    IID propertyInterface;
+    std::string name;
+    std::vector<FieldRow> fields;
+    std::vector<Control> controls;
+};
+
+std::string Utf8(const wchar_t* text) {
+    std::string utf8(
+        static_cast<std::size_t>(::WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr)), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr);
+    utf8.pop_back();
+    return utf8;
+}
+
+std::string TextOf(const GUID& id) {
+    wchar_t text[39];
+    ::StringFromGUID2(id, text, 39);
+    return Utf8(text);
+}
+
+std::string ReadFile(const std::string& name) {
+    std::ifstream file(SOURCES "/" + name, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+/// The names of a record's fields and what the public header says of them.
+std::vector<FieldRow> FieldsInHeader(const std::string& header, const std::string& record) {
+    std::vector<FieldRow> fields;
+    const std::size_t begin = header.find("typedef struct " + record + " {");
+    if (begin == std::string::npos) return fields;
+    std::istringstream lines(header.substr(begin, header.find("\n}", begin) - begin));
+    const std::regex pattern(R"(\s*int32_t (\w+) .*?;(?:\s*///< (.*))?)");
+    std::smatch match;
+    for (std::string line; std::getline(lines, line);) {
+        if (!std::regex_match(line, match, pattern)) continue;
+        FieldRow field;
+        field.name = match[1];
+        field.offset = fields.size() * sizeof(std::int32_t);
+        field.meaning = match[2];
+        fields.push_back(field);
+    }
+    return fields;
+}
+
+/// Opens a dialog, hands it to a function on its own thread, and closes it.
+class OpenDialog {
+public:
+    OpenDialog(EffectId effect, void* record, const std::function<void(CRecordDlg&)>& look) {
+        s_look = look;
+        RecordingHost host(effect);
+        IMediaHost* pointer = &host;
+        const UINT_PTR timer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &OpenDialog::OnTimer);
+        ::ShowSettingsDialog(&pointer, effect, 640, 480, 640, 480, record);
+        ::KillTimer(nullptr, timer);
+    }
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        auto* const dialog = dynamic_cast<CRecordDlg*>(CWnd::FromHandlePermanent(::GetActiveWindow()));
+        if (!dialog || !s_look) return;
+        s_look(*dialog);
+        s_look = nullptr;
+        dialog->PostMessage(WM_CLOSE);
+    }
+
+    inline static std::function<void(CRecordDlg&)> s_look;
+};
+
+/// Lets the walker read a dialog's list.
+struct Reader : CSkinDialog {
+    static const std::vector<Entry>& ControlsOf(const CSkinDialog& dialog) { return (dialog.*&Reader::Controls)(); }
+};
+
+/// The controls that the user works with, each with the label before it.
+std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, std::vector<Control>& inOrder) {
+    std::map<const CSkinControl*, Control> controls;
+    std::string label;
+    for (const auto& [control, help] : Reader::ControlsOf(dialog)) {
+        const auto* const item = dynamic_cast<const CSkinItem*>(control);
+        if (dynamic_cast<const CSkinStatic*>(item)) {
+            if (!item->Text().IsEmpty()) label = Utf8(item->Text());
+            continue;
+        }
+        if (!help) continue;  // The frame's buttons.
+        Control facts;
+        facts.help = Utf8(help);
+        const auto* const window = dynamic_cast<const CWnd*>(control);
+        facts.id = item ? item->Id() : static_cast<UINT>(window->GetDlgCtrlID());
+        const bool hasOwnText = item && !dynamic_cast<const CSkinEdit*>(item) && !item->Text().IsEmpty();
+        facts.label = hasOwnText ? Utf8(item->Text()) : label;
+        controls[control] = facts;
+        inOrder.push_back(facts);
+    }
+    return controls;
+}
+
+void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page) {
+    const auto controls = ReadControls(dialog, page.controls);
+    for (const auto& [bound, binding] : dialog.Fields()) {
+        FieldRow& field = page.fields.at(static_cast<std::size_t>(&bound.value - record));
+        EXPECT_EQ(field.standard, bound.standard) << page.name << '.' << field.name;
+        const auto found = controls.find(binding.control);
+        if (found != controls.end()) field.control = found->second;
+        if (dynamic_cast<CValueSlider*>(binding.control)) {
+            field.hasRange = true;
+            binding.set(std::numeric_limits<int>::min() / 2);
+            field.min = binding.get();
+            binding.set(std::numeric_limits<int>::max() / 2);
+            field.max = binding.get();
+            binding.set(bound.standard);
+        } else if (dynamic_cast<CSkinCheckBox*>(binding.control)) {
+            field.hasRange = true;
+            field.max = 1;
+        }
+    }
+    const std::map<std::string, UINT> area = {
+        {"areaEnabled", CAreaControls::kSwitchId},
+        {"left", CAreaControls::kEdgeIds[0]},
+        {"top", CAreaControls::kEdgeIds[1]},
+        {"right", CAreaControls::kEdgeIds[2]},
+        {"bottom", CAreaControls::kEdgeIds[3]}};
+    for (FieldRow& field : page.fields) {
+        const auto id = area.find(field.name);
+        if (id == area.end()) continue;
+        for (const Control& control : page.controls) {
+            if (control.id == id->second) field.control = control;
+        }
+    }
+}
+
+template <EffectId Id>
+EffectPage PageOf(const std::string& name, const std::string& header) {
+    using Traits = EffectTraits<Id>;
+    using Settings = typename Traits::Settings;
+    EffectPage page{
+        Id,
+        Traits::kInfo,
+        Traits::kFilterClass,
+        Traits::kPropertyInterface,
+        name,
+        FieldsInHeader(header, name + "Settings"),
+        {}};
+    EXPECT_EQ(page.fields.size() * sizeof(std::int32_t), sizeof(Settings)) << name;
+    Settings record;
+    std::vector<std::int32_t> defaults(sizeof(record) / sizeof(std::int32_t));
+    std::memcpy(defaults.data(), &record, sizeof(record));
+    for (std::size_t i = 0; i < page.fields.size(); ++i) page.fields[i].standard = defaults[i];
+    bool looked = false;
+    const OpenDialog open(Id, defaults.data(), [&](CRecordDlg& dialog) {
+        ReadDialog(dialog, defaults.data(), page);
+        looked = true;
+    });
+    EXPECT_TRUE(looked) << name;
+    return page;
+}
+
+std::vector<EffectPage> AllPages() {
+    const std::string header = ReadFile("include/effect_settings/effect_settings.h");
+    std::vector<EffectPage> pages;
+#define PAGE(name, number) pages.push_back(PageOf<EffectId::name>(#name, header));
+    EFFECT_SETTINGS_EFFECTS(PAGE)
+    return pages;
+}
+
+/// "AutoContrast" in words, between a separator.
+std::string Words(const std::string& name, char separator) {
+    std::string words;
+    for (const char character : name) {
+        if (character >= 'A' && character <= 'Z' && !words.empty()) words += separator;
+        words += character;
+    }
+    return words;
+}
+
+std::string PictureOf(const EffectPage& page) {
+    std::string name = Words(page.name, '-');
+    for (char& character : name) character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+    return "gallery/" + name + ".png";
+}
+
+std::string Quoted(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char character : text) {
+        if (character == '"' || character == '\\') quoted += '\\';
+        quoted += character;
+    }
+    return quoted + '"';
+}
+
+std::string Json(const std::vector<EffectPage>& pages) {
+    std::ostringstream out;
+    out << "{\n  \"video\": {\"width\": 640, \"height\": 480},\n  \"effects\": [\n";
+    for (const EffectPage& page : pages) {
+        const EffectInfo& info = page.info;
+        out << "    {\n      \"id\": " << static_cast<int>(page.id) << ",\n      \"name\": " << Quoted(page.name)
+            << ",\n      \"title\": " << Quoted(Utf8(info.title)) << ",\n      \"kind\": "
+            << (info.chain == ChainKind::Audio ? "\"audio\"" : "\"video\"") << ",\n      \"width\": " << info.width
+            << ",\n      \"height\": " << info.height << ",\n      \"description\": " << Quoted(Utf8(info.description))
+            << ",\n      \"picture\": " << Quoted(PictureOf(page))
+            << ",\n      \"filter\": {\"class\": " << Quoted(TextOf(page.filterClass))
+            << ", \"moniker\": " << Quoted(Utf8(MonikerOf(page.filterClass, info.chain))) << ", \"interface\": "
+            << Quoted("IEffect" + page.name) << ", \"interfaceId\": " << Quoted(TextOf(page.propertyInterface))
+            << "},\n      \"record\": {\n        \"type\": " << Quoted(page.name + "Settings")
+            << ",\n        \"size\": " << 4 * page.fields.size() << ",\n        \"fields\": [";
+        const char* separator = "\n";
+        for (const FieldRow& field : page.fields) {
+            out << separator << "          {\"name\": " << Quoted(field.name) << ", \"offset\": " << field.offset
+                << ", \"default\": " << field.standard;
+            if (field.hasRange) out << ", \"min\": " << field.min << ", \"max\": " << field.max;
+            out << ", \"meaning\": " << Quoted(field.meaning);
+            if (field.control.id) out << ", \"control\": " << field.control.id;
+            out << '}';
+            separator = ",\n";
+        }
+        out << "\n        ]\n      },\n      \"controls\": [";
+        separator = "\n";
+        for (const Control& control : page.controls) {
+            out << separator << "        {\"id\": " << control.id << ", \"label\": " << Quoted(control.label)
+                << ", \"help\": " << Quoted(control.help) << '}';
+            separator = ",\n";
+        }
+        out << "\n      ]\n    }" << (&page == &pages.back() ? "\n" : ",\n");
+    }
+    out << "  ]\n}\n";
+    return out.str();
+}
+
+std::string Markdown(const std::vector<EffectPage>& pages) {
+    std::ostringstream out;
+    out << "# The thirty effects\n\n"
+           "Made by `scripts/write-effect-pages` from the library itself; [effects.json](effects.json) says the same "
+           "for "
+           "programs, with the help text of every control. All fields are 32-bit integers. Ranges are those that the "
+           "dialog "
+           "keeps to, here for a video of 640 x 480 pixels; what the fields mean is said in full in "
+           "[effect_settings.h](../include/effect_settings/effect_settings.h).\n";
+    for (const EffectPage& page : pages) {
+        const EffectInfo& info = page.info;
+        out << "\n## " << static_cast<int>(page.id) << ". " << Words(page.name, ' ') << "\n\n`" << page.name
+            << "Settings`, " << 4 * page.fields.size() << " bytes; `EffectId::" << page.name << "`; the dialog is "
+            << info.width << " x " << info.height << " pixels ([picture](" << PictureOf(page)
+            << ")). Its filter, in the " << (info.chain == ChainKind::Audio ? "audio" : "video") << " chain, is `"
+            << TextOf(page.filterClass) << "` and answers for `IEffect" << page.name << "`, `"
+            << TextOf(page.propertyInterface)
+            << "`.\n\n| Field | Offset | Default | Range | Meaning | Control |\n|---|---|---|---|---|---|\n";
+        for (const FieldRow& field : page.fields) {
+            out << "| " << field.name << " | " << field.offset << " | " << field.standard << " | ";
+            if (field.hasRange) out << field.min << " to " << field.max;
+            out << " | " << field.meaning << " | " << field.control.label << " |\n";
+        }
+    }
+    return out.str();
+}
+
+TEST(EffectPages, TellWhatTheDialogsHave) {
+    const std::vector<EffectPage> pages = AllPages();
+    const std::map<std::string, std::string> made = {
+        {"docs/effects.json", Json(pages)}, {"docs/effects.md", Markdown(pages)}};
+    for (const auto& [name, text] : made) {
+        if (std::getenv("EFFECT_SETTINGS_WRITE_PAGES")) {
+            std::ofstream(SOURCES "/" + name, std::ios::binary) << text;
+        }
+        // Not compared by a macro, which would print both.
+        EXPECT_TRUE(ReadFile(name) == text) << name << " is not what the library has; run scripts/write-effect-pages.";
+    }
+}
+
+}  // namespace
