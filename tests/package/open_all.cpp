@@ -49,8 +49,8 @@ int main() {
         cancelled +=
             ShowSettingsDialog(&host, static_cast<EffectId>(effect), 640, 480, 640, 480, record) == kSettingsCancelled;
     }
-    int dialogs = 0;  // The boxes that miss a filter have titles of their own.
-    for (const std::wstring& title : g_titles) dialogs += title.find(L"Setting") != std::wstring::npos;
+    int dialogs = 0;
+    for (const std::wstring& title : g_titles) dialogs += title.find(L" Setting") != std::wstring::npos;
     std::printf(
         "%d closed, %d different dialogs, gamma %d, %d frames\n", cancelled, dialogs, filter.factor, filter.frames);
     return cancelled == 30 && dialogs == 30 && filter.factor == 1 && filter.frames >= 3 ? 0 : 1;

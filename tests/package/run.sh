@@ -11,15 +11,16 @@ for preset in x64 x86; do
     unpacked=$(echo "$consumer/$preset"/*)
     built=$consumer/$preset/build
     cp -r tests/package "$consumer/$preset/source"
-    cmake -S "$consumer/$preset/source" -B "$built" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/mingw-$preset.cmake" -DEffectSettings_ROOT="$unpacked" \
-        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH >"$consumer/$preset.log"
+    tools=$([[ $preset == x64 ]] && echo x86_64 || echo i686)-w64-mingw32
+    cmake -S "$consumer/$preset/source" -B "$built" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_SYSTEM_NAME=Windows \
+        -DCMAKE_C_COMPILER="$tools-gcc-posix" -DCMAKE_CXX_COMPILER="$tools-g++-posix" -DCMAKE_RC_COMPILER="$tools-windres" \
+        -DEffectSettings_ROOT="$unpacked" >"$consumer/$preset.log"
     cmake --build "$built" >>"$consumer/$preset.log" || {
         cat "$consumer/$preset.log" >&2
         exit 1
     }
     # shellcheck disable=SC2046 # They are words.
-    "$([[ $preset == x64 ]] && echo x86_64 || echo i686)-w64-mingw32-gcc" tests/package/call_from_c.c -o "$built/bin/call_by_pkgconf.exe" \
+    "$tools-gcc-posix" tests/package/call_from_c.c -o "$built/bin/call_by_pkgconf.exe" \
         $(PKG_CONFIG_LIBDIR=$unpacked/lib/pkgconfig pkg-config --cflags --libs EffectSettings)
 done
 say "Running the 64-bit host and the checker"
