@@ -118,14 +118,29 @@ struct Reader : CSkinDialog {
     static const std::vector<Entry>& ControlsOf(const CSkinDialog& dialog) { return (dialog.*&Reader::Controls)(); }
 };
 
-/// The controls that the user works with, each with the label before it.
+/// What stands to the left of a control, or else was added just before it.
+std::string LabelOf(const CRecordDlg& dialog, const CSkinControl& control, const std::string& before) {
+    const CRect bounds = control.Bounds();
+    const CSkinStatic* nearest = nullptr;
+    for (const auto& entry : Reader::ControlsOf(dialog)) {
+        const auto* const label = dynamic_cast<const CSkinStatic*>(entry.control);
+        if (!label || label->Text().IsEmpty()) continue;
+        const CRect place = label->Bounds();
+        if (std::abs(place.top - bounds.top) > 5 || place.right > bounds.left + 5 || bounds.left - place.right > 60)
+            continue;
+        if (!nearest || place.right > nearest->Bounds().right) nearest = label;
+    }
+    return nearest ? Utf8(nearest->Text()) : before;
+}
+
+/// The controls that the user works with.
 std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, std::vector<Control>& inOrder) {
     std::map<const CSkinControl*, Control> controls;
     std::string label;
     for (const auto& [control, help] : Reader::ControlsOf(dialog)) {
         const auto* const item = dynamic_cast<const CSkinItem*>(control);
         if (dynamic_cast<const CSkinStatic*>(item)) {
-            if (!item->Text().IsEmpty()) label = Utf8(item->Text());
+            label = Utf8(item->Text());
             continue;
         }
         if (!help) continue;  // The frame's buttons.
@@ -133,8 +148,9 @@ std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, st
         facts.help = Utf8(help);
         const auto* const window = dynamic_cast<const CWnd*>(control);
         facts.id = item ? item->Id() : static_cast<UINT>(window->GetDlgCtrlID());
-        const bool hasOwnText = item && !dynamic_cast<const CSkinEdit*>(item) && !item->Text().IsEmpty();
-        facts.label = hasOwnText ? Utf8(item->Text()) : label;
+        const bool isNamedByLabel = !item || dynamic_cast<const CSkinEdit*>(item) ||
+                                    dynamic_cast<const CVelComboListBox*>(item) || item->Text().IsEmpty();
+        facts.label = isNamedByLabel ? LabelOf(dialog, *control, label) : Utf8(item->Text());
         controls[control] = facts;
         inOrder.push_back(facts);
     }
