@@ -264,7 +264,7 @@ void CVelComboListBox::Paint(HDC dc, CSize size) {
     const int width = size.cx;
     const int lower = IsPressed() ? 3 : 0;
     const Gdiplus::Point triangle[] = {{width - 13, 10 + lower}, {width - 6, 10 + lower}, {width - 10, 14 + lower}};
-    graphics.FillPolygon(&SharedBrush(Ink(color)), triangle, 3);
+    FillShape(graphics, triangle, 3, color);
     if (Text().IsEmpty()) return;
     DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kTextEm),
                CRect(kTextLeft, 0, width - kTriangleSpace, size.cy), TextLayout::LeftMiddle,

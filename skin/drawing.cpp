@@ -2,7 +2,10 @@
 
 #include <atlcore.h>
 
+#include <utility>
+
 #include "skin/fonts.h"
+#include "skin/off_screen.h"
 
 CMemoryDC::CMemoryDC(HDC compatible, HBITMAP bitmap)
     : m_dc(::CreateCompatibleDC(compatible)), m_previous(::SelectObject(m_dc, bitmap)) {}
@@ -13,19 +16,23 @@ CMemoryDC::~CMemoryDC() {
 }
 
 CBufferedPaint::CBufferedPaint(HDC target, const CRect& rect)
-    : m_target(target),
-      m_rect(rect),
-      m_bitmap(::CreateCompatibleBitmap(target, rect.Width(), rect.Height())),
-      m_memory(target, m_bitmap.Get()) {}
+    : m_target(target), m_rect(rect), m_screen(TakeOffScreen(rect.Size())) {}
 
 CBufferedPaint::~CBufferedPaint() {
-    ::BitBlt(m_target, m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), m_memory, 0, 0, SRCCOPY);
+    if (!m_screen) return;
+    ::BitBlt(m_target, m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), m_screen->Dc(), 0, 0, SRCCOPY);
+    KeepOffScreen(std::move(m_screen));
 }
 
-void CBufferedPaint::CopyFrom(HBITMAP background) const {
-    if (!background) return;
-    const CMemoryDC source(m_target, background);
-    ::BitBlt(m_memory, 0, 0, m_rect.Width(), m_rect.Height(), source, m_rect.left, m_rect.top, SRCCOPY);
+HDC CBufferedPaint::Dc() const { return m_screen ? m_screen->Dc() : nullptr; }
+
+void CBufferedPaint::CopyFrom(HBITMAP bitmap, CPoint from) const {
+    if (!m_screen) return;
+    if (bitmap) {
+        CopyBitmap(m_screen->Dc(), CRect(CPoint(0, 0), Size()), bitmap, from);
+    } else {
+        ::PatBlt(m_screen->Dc(), 0, 0, m_rect.Width(), m_rect.Height(), BLACKNESS);
+    }
 }
 
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color) {
@@ -92,7 +99,21 @@ void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF colo
     const Gdiplus::Point corners[] = {
         {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
         {1, bottom}, {0, bottom - 1}, {0, 1}};
-    graphics.DrawPolygon(&SharedPen(Ink(color)), corners, static_cast<INT>(std::size(corners)));
+    if (const auto* pen = SharedPen(Ink(color))) {
+        graphics.DrawPolygon(pen, corners, static_cast<INT>(std::size(corners)));
+    }
+}
+
+void FillShape(Gdiplus::Graphics& graphics, const Gdiplus::Point* corners, int count, COLORREF color) {
+    if (const auto* brush = SharedBrush(Ink(color))) graphics.FillPolygon(brush, corners, count);
+}
+
+void FillCircle(Gdiplus::Graphics& graphics, int x, int y, int diameter, COLORREF color) {
+    // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
+    Gdiplus::GraphicsPath circle;
+    circle.AddEllipse(x, y, diameter, diameter);
+    circle.Flatten(nullptr, 0.01F);
+    if (const auto* brush = SharedBrush(OpaqueColor(color))) graphics.FillPath(brush, &circle);
 }
 
 CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
@@ -101,19 +122,18 @@ CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
     SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
 }
 
-void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
+void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, const CRect& rect,
                 TextLayout layout, const Gdiplus::Color& color) {
     const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
                               static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
-    graphics.DrawString(text, text.GetLength(), &font, area, &FormatOf(layout), &SharedBrush(color));
+    graphics.DrawString(text, text.GetLength(), font, area, FormatOf(layout), SharedBrush(color));
 }
 
-void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
+void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, CPoint at,
                       COLORREF color, COLORREF halo) {
     const auto drawAt = [&](int x, int y, COLORREF ink) {
-        graphics.DrawString(
-            text, text.GetLength(), &font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
-            &SharedBrush(OpaqueColor(ink)));
+        graphics.DrawString(text, text.GetLength(), font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
+                            SharedBrush(OpaqueColor(ink)));
     };
     for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
         drawAt(at.x + offset.x, at.y + offset.y, GroundColor(halo));
@@ -121,9 +141,19 @@ void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gd
     drawAt(at.x, at.y, InkColor(color));
 }
 
-Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font,
+void DrawTitleText(Gdiplus::Graphics& graphics, const CString& text, const CRect& rect, const Gdiplus::Color& color) {
+    constexpr float kEm = 15.0F;
+    const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
+                              static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
+    Gdiplus::GraphicsPath path;
+    path.AddString(text, text.GetLength(), FontFamilyFor(L"Arial"), Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic,
+                   kEm, area, FormatOf(TextLayout::Title));
+    if (const auto* brush = SharedBrush(color)) graphics.FillPath(brush, &path);
+}
+
+Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font,
                            TextLayout layout) {
     Gdiplus::RectF bounds;
-    graphics.MeasureString(text, text.GetLength(), &font, Gdiplus::PointF(0, 0), &FormatOf(layout), &bounds);
+    graphics.MeasureString(text, text.GetLength(), font, Gdiplus::PointF(0, 0), FormatOf(layout), &bounds);
     return {bounds.Width, bounds.Height};
 }

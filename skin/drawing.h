@@ -1,6 +1,8 @@
 // What the controls draw with: owners of GDI handles, buffered painting, fills and frames, GDI+ text.
 #pragma once
 
+#include <memory>
+
 #include <afxwin.h>
 
 #include "skin/gdi_plus.h"
@@ -73,8 +75,10 @@ private:
     HDC m_dc;
 };
 
+class COffScreen;
+
 /// Draws a rectangle of a window off screen; the destructor copies it to the screen in one step.
-/// Coordinates inside start at (0, 0).
+/// Coordinates inside start at (0, 0). What is drawn beyond the rectangle's size is lost.
 class CBufferedPaint {
 public:
     CBufferedPaint(HDC target, const CRect& rect);
@@ -82,18 +86,19 @@ public:
     CBufferedPaint(const CBufferedPaint&) = delete;
     CBufferedPaint& operator=(const CBufferedPaint&) = delete;
 
-    HDC Dc() const { return m_memory; }
+    HDC Dc() const;
     CSize Size() const { return m_rect.Size(); }
-    /// Copies the same rectangle out of a bitmap in the window's coordinates; a null bitmap copies nothing.
-    void CopyFrom(HBITMAP background) const;
+    /// Copies out of a bitmap from a point on, as much as there is room; a null bitmap gives black.
+    void CopyFrom(HBITMAP bitmap, CPoint from) const;
 
 private:
     HDC m_target;
     CRect m_rect;
-    CBitmapHandle m_bitmap;
-    CMemoryDC m_memory;
+    std::unique_ptr<COffScreen> m_screen;  // Null when there is no memory for it.
 };
 
+/// Fills a rectangle out of a bitmap, from a point of it on.
+void CopyBitmap(HDC target, const CRect& rect, HBITMAP bitmap, CPoint from);
 /// In exactly this colour; the other helpers draw in InkColor and GroundColor of theirs.
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color);
 /// Fills with a gradient from top to bottom; plain in the first colour where the system has no GradientFill.
@@ -128,14 +133,22 @@ public:
 enum class TextLayout {
     Wrapped,     ///< From the top left corner, wrapping at the width.
     LeftMiddle,  ///< One line, left, vertically centred.
+    Title,       ///< As LeftMiddle, but cut off where it does not fit.
     Centred,     ///< One line, centred both ways.
     Tip,         ///< One line, centred both ways, its blanks counted.
 };
 
-void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, const CRect& rect,
+// What can't be made for lack of memory is null and draws nothing.
+
+void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, const CRect& rect,
                 TextLayout layout, const Gdiplus::Color& color);
 /// Draws a text at a point with a one-pixel halo around it.
-void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font, CPoint at,
+void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, CPoint at,
                       COLORREF color, COLORREF halo);
-Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font& font,
+/// Draws the outlines of a dialog title's letters, filled: smoother than text, and it can be translucent.
+void DrawTitleText(Gdiplus::Graphics& graphics, const CString& text, const CRect& rect, const Gdiplus::Color& color);
+void FillShape(Gdiplus::Graphics& graphics, const Gdiplus::Point* corners, int count, COLORREF color);
+/// In exactly this colour.
+void FillCircle(Gdiplus::Graphics& graphics, int x, int y, int diameter, COLORREF color);
+Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font,
                            TextLayout layout = TextLayout::Wrapped);

@@ -1,5 +1,9 @@
-// The fonts, brushes and text formats that all controls share: each is made once and kept until the library goes.
+// The fonts, brushes, text formats and pictures that all controls share: each is made once and kept until the library
+// goes. All GDI+ objects that outlive a call are made here.
 #pragma once
+
+#include <functional>
+#include <string>
 
 #include <afxwin.h>
 
@@ -12,15 +16,22 @@ HFONT LabelFont();  ///< Arial, height 13: the labels of the dialogs, as large a
 
 CString FaceOf(HFONT font);
 
+// Null is what could not be made, for lack of memory or of the file; the next call tries again.
+
 /// The family of a face, or the generic sans serif one, or any installed one: never a family without letters.
-const Gdiplus::FontFamily& FontFamilyFor(LPCWSTR face);
+const Gdiplus::FontFamily* FontFamilyFor(LPCWSTR face);
 /// A GDI+ font of a given em size in pixels.
-const Gdiplus::Font& TextFont(LPCWSTR face, float emPixels, Gdiplus::FontStyle style = Gdiplus::FontStyleRegular);
+const Gdiplus::Font* TextFont(LPCWSTR face, float emPixels, Gdiplus::FontStyle style = Gdiplus::FontStyleRegular);
 /// The GDI+ font that matches a GDI font in height and weight.
-const Gdiplus::Font& MatchingFont(HFONT font);
-const Gdiplus::SolidBrush& SharedBrush(const Gdiplus::Color& color);
-const Gdiplus::Pen& SharedPen(const Gdiplus::Color& color);  ///< One pixel wide.
-const Gdiplus::StringFormat& FormatOf(TextLayout layout);
+const Gdiplus::Font* MatchingFont(HFONT font);
+const Gdiplus::SolidBrush* SharedBrush(const Gdiplus::Color& color);
+const Gdiplus::Pen* SharedPen(const Gdiplus::Color& color);  ///< One pixel wide.
+const Gdiplus::StringFormat* FormatOf(TextLayout layout);
+/// The picture in a file, which is read once.
+Gdiplus::Bitmap* SharedPicture(LPCWSTR file);
+/// Draws what `paint` draws, but for the four corner pixels. It is drawn once and kept under the key until the library
+/// goes, so the key has to name all that it depends on, and there may be only a few.
+void DrawKept(HDC dc, CSize size, const std::wstring& key, const std::function<void(HDC)>& paint);
 
 /// Deletes them all; the next use makes them again. Must run before GDI+ is shut down.
 void ReleaseSharedDrawing();

@@ -9,7 +9,7 @@ namespace {
 constexpr UINT_PTR kHideTimer = 1;
 constexpr BYTE kAlpha = 200;
 
-const Gdiplus::Font& TextFontOfTip() {
+const Gdiplus::Font* TextFontOfTip() {
     LOGFONTW description{};
     ::GetObjectW(TipFont(), sizeof(description), &description);
     return TextFont(description.lfFaceName, static_cast<float>(std::abs(description.lfHeight)));

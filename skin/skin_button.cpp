@@ -3,8 +3,7 @@
 #include "skin/numbers.h"
 
 void CSkinButton::SetPicture(LPCWSTR path) {
-    auto picture = std::make_unique<Gdiplus::Image>(path);
-    m_picture = picture->GetLastStatus() == Gdiplus::Ok ? std::move(picture) : nullptr;
+    m_pictureFile = path;
     Draw();
 }
 
@@ -18,31 +17,50 @@ ControlFacts CSkinButton::Facts() const {
 }
 
 void CSkinButton::Paint(HDC dc, CSize size) {
-    if (m_framed) {
-        const CRect face(1, 1, size.cx - 1, size.cy - 1);
-        if (IsPressed()) {
-            FillVerticalGradient(dc, face, kBackgroundColor, kAccentColor);
-        } else {
-            FillFace(dc, face, kAccentColor, kBackgroundColor);
-        }
-        DrawOpenCornerFrame(dc, size, IsHovered() ? kAccentColor : Lighten(kAccentColor, 30));
+    if (m_framed && m_pictureFile.IsEmpty()) {
+        DrawKept(dc, size, FaceKey(size), [&](HDC face) {
+            PaintFace(face, size);
+            PaintCaption(face, size);
+        });
+        return;
     }
-    CTextGraphics graphics(dc);
-    if (m_picture && IsHighContrast()) {
+    if (m_framed) PaintFace(dc, size);
+    if (!m_pictureFile.IsEmpty() && IsHighContrast()) {
         PaintCross(dc, size);
-    } else if (m_picture) {
-        PaintPicture(graphics, size);
+    } else {
+        PaintPicture(dc, size);
     }
-    if (!Text().IsEmpty()) PaintCaption(graphics, size);
+    PaintCaption(dc, size);
 }
 
-void CSkinButton::PaintPicture(Gdiplus::Graphics& graphics, CSize size) const {
-    const int width = static_cast<int>(m_picture->GetWidth()) / 4;
-    const int height = static_cast<int>(m_picture->GetHeight());
+std::wstring CSkinButton::FaceKey(CSize size) const {
+    CString key;
+    key.Format(
+        L"%d %d %d%d%d %p %x %x %x ", size.cx, size.cy, IsEnabled(), IsPressed(), IsHovered(), Font(), DisabledColor(),
+        InkColor(kTextColor), GroundColor(kBackgroundColor));
+    return std::wstring(key + Text());
+}
+
+void CSkinButton::PaintFace(HDC dc, CSize size) const {
+    const CRect face(1, 1, size.cx - 1, size.cy - 1);
+    if (IsPressed()) {
+        FillVerticalGradient(dc, face, kBackgroundColor, kAccentColor);
+    } else {
+        FillFace(dc, face, kAccentColor, kBackgroundColor);
+    }
+    DrawOpenCornerFrame(dc, size, IsHovered() ? kAccentColor : Lighten(kAccentColor, 30));
+}
+
+void CSkinButton::PaintPicture(HDC dc, CSize size) const {
+    Gdiplus::Bitmap* picture = m_pictureFile.IsEmpty() ? nullptr : SharedPicture(m_pictureFile);
+    if (!picture) return;
+    const int width = static_cast<int>(picture->GetWidth()) / 4;
+    const int height = static_cast<int>(picture->GetHeight());
     const int frame = !IsEnabled() ? 3 : IsPressed() ? 2 : IsHovered() ? 1 : 0;
     const int shift = IsPressed() ? 1 : 0;
     const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);
-    graphics.DrawImage(m_picture.get(), place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+    CTextGraphics graphics(dc);
+    graphics.DrawImage(picture, place, frame * width, 0, width, height, Gdiplus::UnitPixel);
 }
 
 void CSkinButton::PaintCross(HDC dc, CSize size) {
@@ -54,7 +72,8 @@ void CSkinButton::PaintCross(HDC dc, CSize size) {
     for (const auto& line : lines) DrawLines(dc, line, 2, kTextColor);
 }
 
-void CSkinButton::PaintCaption(Gdiplus::Graphics& graphics, CSize size) const {
+void CSkinButton::PaintCaption(HDC dc, CSize size) const {
+    if (Text().IsEmpty()) return;
     const bool pressedFace = IsPressed() && m_framed;
     const bool hoverFace = IsHovered() && m_framed;
     const COLORREF color =
@@ -63,7 +82,8 @@ void CSkinButton::PaintCaption(Gdiplus::Graphics& graphics, CSize size) const {
         : hoverFace   ? kOrangeColor
                       : kTextColor;
     const COLORREF halo = IsPressed() ? Lighten(kAccentColor, 40) : IsHovered() ? kAccentColor : kBackgroundColor;
-    const Gdiplus::Font& font = MatchingFont(Font());
+    CTextGraphics graphics(dc);
+    const Gdiplus::Font* font = MatchingFont(Font());
     const Gdiplus::SizeF text = MeasureText(graphics, Text(), font);
     const CPoint at(TruncateToInt((static_cast<double>(size.cx) - text.Width) * 0.5),
                     TruncateToInt((static_cast<double>(size.cy) - text.Height) * 0.5 + 1.0));

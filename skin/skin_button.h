@@ -1,7 +1,7 @@
 // The push button: a gradient face or a picture, with a centred caption.
 #pragma once
 
-#include <memory>
+#include <string>
 
 #include "skin/skin_item.h"
 
@@ -20,12 +20,14 @@ protected:
     void Paint(HDC dc, CSize size) override;
 
 private:
-    void PaintPicture(Gdiplus::Graphics& graphics, CSize size) const;
+    std::wstring FaceKey(CSize size) const;
+    void PaintFace(HDC dc, CSize size) const;
+    void PaintPicture(HDC dc, CSize size) const;
     /// The picture of the only button that has one, the close button, in the system's own colours.
     static void PaintCross(HDC dc, CSize size);
-    void PaintCaption(Gdiplus::Graphics& graphics, CSize size) const;
+    void PaintCaption(HDC dc, CSize size) const;
 
     bool m_framed = true;
     LPCWSTR m_spokenName = L"";
-    std::unique_ptr<Gdiplus::Image> m_picture;
+    CString m_pictureFile;
 };

@@ -129,11 +129,11 @@ void CSkinDialog::EndDialog(int result) {
 }
 
 void CSkinDialog::PlaceWindow(int width, int height, LPCWSTR title) {
+    SetWindowText(title);
     MoveWindow(0, 0, width, height);
     CenterWindow();
     const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
     MoveBy(WayInto(WorkAreaOf(owner ? owner : m_hWnd), WindowRect()));
-    SetWindowText(title);
 }
 
 CRect CSkinDialog::WindowRect() const {
@@ -160,6 +160,7 @@ void CSkinDialog::OnSize(UINT type, int cx, int cy) {
     if (type == SIZE_MINIMIZED || cx <= 0 || cy <= 0) return;
     // The window owns its region from here on.
     SetWindowRgn(::CreateRoundRectRgn(0, 0, cx, cy, kCornerDiameter, kCornerDiameter), TRUE);
+    LayoutControls();
     CreateBackground();
     Invalidate();
 }
@@ -185,10 +186,10 @@ void CSkinDialog::CreateBackground() {
         DrawLines(dc, frame, static_cast<int>(std::size(frame)), kAccentColor);
         DrawLines(dc, topLeftCorner, 2, kAccentColor);
         DrawLines(dc, separator, 2, kAccentColor);
+        DrawTitle(dc);
     }
     m_background = std::move(background);
     SetSkinBackground(m_background.Get());
-    LayoutControls();
 }
 
 void CSkinDialog::SetSkinBackground(HBITMAP background) {
@@ -207,34 +208,26 @@ void CSkinDialog::LayoutControls() {
 
 BOOL CSkinDialog::OnEraseBkgnd(CDC* dc) {
     if (!m_background) return CDialog::OnEraseBkgnd(dc);
-    const HDC target = dc->GetSafeHdc();
-    const CRect client = ClientRect();
-    {
-        const CBufferedPaint titleBar(target, CRect(0, 0, client.right, kTitleHeight));
-        titleBar.CopyFrom(m_background.Get());
-        DrawTitle(titleBar.Dc());
-    }
-    const CMemoryDC background(target, m_background.Get());
-    ::BitBlt(target, 0, kTitleHeight, client.right, client.bottom - kTitleHeight, background, 0, kTitleHeight, SRCCOPY);
+    CString title;
+    GetWindowText(title);
+    if (title != m_drawnTitle) CreateBackground();
+    CopyBitmap(dc->GetSafeHdc(), ClientRect(), m_background.Get(), CPoint(0, 0));
     return TRUE;
 }
 
-void CSkinDialog::DrawTitle(HDC dc) const {
-    CString title;
-    GetWindowText(title);
-    if (title.IsEmpty()) return;
-    const Gdiplus::RectF area(10.0F, 0.0F, static_cast<float>(ClientRect().Width()), static_cast<float>(kTitleHeight));
-    Gdiplus::StringFormat format(Gdiplus::StringFormatFlagsNoWrap);
-    format.SetLineAlignment(Gdiplus::StringAlignmentCenter);
-    Gdiplus::GraphicsPath path;
-    path.AddString(title, title.GetLength(), &FontFamilyFor(L"Arial"),
-                   Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic, 15.0F, area, &format);
+void CSkinDialog::DrawTitle(HDC dc) {
+    GetWindowText(m_drawnTitle);
+    if (m_drawnTitle.IsEmpty()) return;
     CTextGraphics graphics(dc);
+    // The close button stands on the bare band, however long the title is.
+    const CRect button = m_closeButton.Bounds();
+    if (m_closeButton.IsVisible()) {
+        graphics.ExcludeClip(Gdiplus::Rect(button.left, button.top, button.Width(), button.Height()));
+    }
     const COLORREF color = InkColor(Darken(kTextColor, 10));
-    const BYTE alpha = IsHighContrast() ? 255 : 200;
-    graphics.FillPath(&SharedBrush(Gdiplus::Color(alpha, static_cast<BYTE>(RedOf(color)),
-                                                  static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color)))),
-                      &path);
+    DrawTitleText(graphics, m_drawnTitle, CRect(10, 0, 10 + ClientRect().Width(), kTitleHeight),
+                  Gdiplus::Color(IsHighContrast() ? BYTE{255} : BYTE{200}, static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)),
+                                 static_cast<BYTE>(BlueOf(color))));
 }
 
 void CSkinDialog::OnPaint() {

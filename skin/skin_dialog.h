@@ -99,7 +99,7 @@ private:
     LONG NumberOf(const CSkinControl& control) const;
 
     void CreateBackground();
-    void DrawTitle(HDC dc) const;
+    void DrawTitle(HDC dc);
     void Press(CPoint point);
     bool IsEmptyAt(CPoint point) const;
     void DragTo(CPoint point);
@@ -113,7 +113,8 @@ private:
 
     COwner m_owner;
     bool m_answered = false;
-    CBitmapHandle m_background;
+    CBitmapHandle m_background;  // With the title.
+    CString m_drawnTitle;
     std::vector<Entry> m_controls;
     CFocusRing m_focus{*this};
     CAccessibility m_accessibility{*this};

@@ -59,7 +59,7 @@ void CSkinItem::Draw() {
     {
         const CBorrowedDC screen(m_parent);
         const CBufferedPaint buffer(screen, m_rect);
-        buffer.CopyFrom(m_background);
+        buffer.CopyFrom(m_background, m_rect.TopLeft());
         Paint(buffer.Dc(), buffer.Size());
     }
     if (Site()) Site()->ControlDrawn(m_rect);
@@ -104,8 +104,10 @@ void CSkinItem::HideTip() {
 }
 
 void CSkinItem::HandleMouse(UINT message, CPoint point) {
-    if (!m_enabled || !m_visible || !::IsWindow(m_parent)) return;
     const bool inside = m_rect.PtInRect(point) != FALSE;
+    // Most items are idle and elsewhere when the pointer moves.
+    if (message == WM_MOUSEMOVE && !inside && m_state == State::Normal) return;
+    if (!m_enabled || !m_visible || !::IsWindow(m_parent)) return;
     switch (message) {
         case WM_MOUSELEAVE:
             if (ParentHasCapture()) return;

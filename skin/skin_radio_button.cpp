@@ -9,11 +9,7 @@ ControlFacts CSkinRadioButton::Facts() const {
 
 void CSkinRadioButton::DrawMark(Gdiplus::Graphics& graphics, HDC /*dc*/, int x, int y) const {
     const auto fillCircle = [&](int inset, int diameter, COLORREF color) {
-        // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
-        Gdiplus::GraphicsPath circle;
-        circle.AddEllipse(x + inset, y + inset, diameter, diameter);
-        circle.Flatten(nullptr, 0.01F);
-        graphics.FillPath(&SharedBrush(OpaqueColor(color)), &circle);
+        FillCircle(graphics, x + inset, y + inset, diameter, color);
     };
     graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAliasGridFit);
     fillCircle(0, 13, InkColor(!IsEnabled() ? DisabledColor() : IsChecked() ? kBlueColor : kAccentColor));

@@ -123,11 +123,6 @@ void CSkinSlider::OnSize(UINT type, int cx, int cy) {
     m_thumb.SetRect(middle - 3, 8, middle + 8, 19);
 }
 
-BOOL CSkinSlider::OnEraseBkgnd(CDC* dc) {
-    Paint(dc->GetSafeHdc());
-    return TRUE;
-}
-
 void CSkinSlider::OnPaint() {
     CPaintDC dc(this);
     Paint(dc);
@@ -140,10 +135,7 @@ void CSkinSlider::Paint(HDC target) {
     const HDC dc = buffer.Dc();
 
     if (m_background) {
-        const CRect place = Bounds();
-        const CMemoryDC source(target, m_background);
-        ::StretchBlt(dc, 0, 0, client.Width(), client.Height(), source, place.left, place.top, place.Width(),
-                     place.Height(), SRCCOPY);
+        buffer.CopyFrom(m_background, Bounds().TopLeft());
     } else {
         FillRectangle(dc, client, GroundColor(kBackgroundColor));
     }

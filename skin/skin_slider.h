@@ -54,7 +54,7 @@ protected:
     virtual int Offset() const { return 0; }
 
     afx_msg void OnSize(UINT type, int cx, int cy);
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; }  // Painting covers everything.
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point) { OnLButtonDown(flags, point); }  // A fast press.

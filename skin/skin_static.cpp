@@ -32,7 +32,7 @@ void CSkinStatic::Paint(HDC dc, CSize size) {
                Ink(m_textColor));
 }
 
-const Gdiplus::Font& CSkinStatic::DrawnFont() const {
+const Gdiplus::Font* CSkinStatic::DrawnFont() const {
     LOGFONTW description{};
     ::GetObjectW(Font(), sizeof(description), &description);
     const auto style = description.lfWeight >= 800 ? Gdiplus::FontStyleBold : Gdiplus::FontStyleRegular;

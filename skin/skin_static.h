@@ -15,7 +15,7 @@ public:
 
 protected:
     void Paint(HDC dc, CSize size) override;
-    const Gdiplus::Font& DrawnFont() const;
+    const Gdiplus::Font* DrawnFont() const;
 
 private:
     bool m_leftAligned = false;

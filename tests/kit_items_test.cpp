@@ -310,10 +310,10 @@ TEST(KitItems, AHeadingsLineBeginsWhereItsTextEnds) {
 
 TEST(Fonts, AnUnknownFaceStillHasLetters) {
     for (const LPCWSTR face : {L"No Such Face", L"Arial", L""}) {
-        EXPECT_TRUE(FontFamilyFor(face).IsAvailable()) << face;
-        EXPECT_EQ(TextFont(face, 13.0F).GetLastStatus(), Gdiplus::Ok) << face;
+        EXPECT_TRUE(FontFamilyFor(face)->IsAvailable()) << face;
+        EXPECT_EQ(TextFont(face, 13.0F)->GetLastStatus(), Gdiplus::Ok) << face;
     }
-    EXPECT_EQ(MatchingFont(ItemFont()).GetLastStatus(), Gdiplus::Ok);
+    EXPECT_EQ(MatchingFont(ItemFont())->GetLastStatus(), Gdiplus::Ok);
 }
 
 TEST(Numbers, TruncationIsDefinedForEveryDouble) {
