@@ -12,6 +12,21 @@ HMODULE ATL::AtlLoadSystemLibraryUsingFullPath(const WCHAR* name) {
     return length && length < MAX_PATH ? ::LoadLibraryW((std::wstring(folder) + L'\\' + name).c_str()) : nullptr;
 }
 
+namespace {
+
+/// Calls one of the system's dialogs. Their library is loaded while they are shown: few users ever see one.
+template <typename Setup>
+INT_PTR RunCommonDialog(const char* function, Setup& setup) {
+    const HMODULE library = ::LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (!library) return IDCANCEL;
+    const auto run = reinterpret_cast<BOOL(APIENTRY*)(Setup*)>(reinterpret_cast<void*>(::GetProcAddress(library, function)));
+    const bool accepted = run && run(&setup);
+    ::FreeLibrary(library);
+    return accepted ? IDOK : IDCANCEL;
+}
+
+}  // namespace
+
 void CListBox::GetText(int index, CString& text) const {
     const int length = GetTextLen(index);
     text.Empty();
@@ -66,7 +81,7 @@ CFileDialog::CFileDialog(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, 
 
 INT_PTR CFileDialog::DoModal() {
     m_ofn.hwndOwner = afx::OwnerFor(m_parent);
-    return (m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn)) ? IDOK : IDCANCEL;
+    return RunCommonDialog(m_open ? "GetOpenFileNameW" : "GetSaveFileNameW", m_ofn);
 }
 
 CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) : m_parent(parent) {
@@ -78,7 +93,7 @@ CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) : m_pare
 
 INT_PTR CColorDialog::DoModal() {
     m_cc.hwndOwner = afx::OwnerFor(m_parent);
-    return ::ChooseColorW(&m_cc) ? IDOK : IDCANCEL;
+    return RunCommonDialog("ChooseColorW", m_cc);
 }
 
 COLORREF* CColorDialog::CustomColors() {
