@@ -19,7 +19,8 @@ template <typename Setup>
 INT_PTR RunCommonDialog(const char* function, Setup& setup) {
     const HMODULE library = ::LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (!library) return IDCANCEL;
-    const auto run = reinterpret_cast<BOOL(APIENTRY*)(Setup*)>(reinterpret_cast<void*>(::GetProcAddress(library, function)));
+    const auto run =
+        reinterpret_cast<BOOL(APIENTRY*)(Setup*)>(reinterpret_cast<void*>(::GetProcAddress(library, function)));
     const bool accepted = run && run(&setup);
     ::FreeLibrary(library);
     return accepted ? IDOK : IDCANCEL;
