@@ -35,9 +35,8 @@ void CSkinButton::Paint(HDC dc, CSize size) {
 
 std::wstring CSkinButton::FaceKey(CSize size) const {
     CString key;
-    key.Format(
-        L"%d %d %d%d%d %p %x %x %x ", size.cx, size.cy, IsEnabled(), IsPressed(), IsHovered(), Font(), DisabledColor(),
-        InkColor(kTextColor), GroundColor(kBackgroundColor));
+    key.Format(L"%d %d %d%d%d %p %x %x %x ", size.cx, size.cy, IsEnabled(), IsPressed(), IsHovered(), Font(),
+               DisabledColor(), InkColor(kTextColor), GroundColor(kBackgroundColor));
     return std::wstring(key + Text());
 }
 

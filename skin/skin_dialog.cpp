@@ -226,8 +226,8 @@ void CSkinDialog::DrawTitle(HDC dc) {
     }
     const COLORREF color = InkColor(Darken(kTextColor, 10));
     DrawTitleText(graphics, m_drawnTitle, CRect(10, 0, 10 + ClientRect().Width(), kTitleHeight),
-                  Gdiplus::Color(IsHighContrast() ? BYTE{255} : BYTE{200}, static_cast<BYTE>(RedOf(color)), static_cast<BYTE>(GreenOf(color)),
-                                 static_cast<BYTE>(BlueOf(color))));
+                  Gdiplus::Color(IsHighContrast() ? BYTE{255} : BYTE{200}, static_cast<BYTE>(RedOf(color)),
+                                 static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color))));
 }
 
 void CSkinDialog::OnPaint() {
