@@ -5,7 +5,7 @@ foreach(program IN LISTS packaged_programs)
 endforeach()
 add_custom_target(package_files DEPENDS EffectSettings ${packaged_programs})
 install(TARGETS ${packaged_programs} RUNTIME)
-install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
