@@ -1,10 +1,10 @@
 # The import libraries for both compilers, from one list of exports. In 32-bit code callers ask for the decorated name,
-# while the library exports the plain one.
+# while the library exports the plain one. The tool writes the given name into the file, so that holds no path.
 set(decoration $<IF:$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>,@28,>)
 file(GENERATE OUTPUT import.def CONTENT "LIBRARY EffectSettings.dll\nEXPORTS\n    ShowSettingsDialog${decoration}\n")
 add_custom_command(TARGET EffectSettings POST_BUILD VERBATIM
                    COMMAND ${CMAKE_DLLTOOL} --kill-at --deterministic-libraries --temp-prefix EffectSettings_import
-                           --input-def import.def --output-lib $<TARGET_LINKER_FILE:EffectSettings>)
+                           --input-def import.def --output-lib $<TARGET_LINKER_FILE_NAME:EffectSettings>)
 
 # MSVC's, wherever LLVM's tool is installed; ./package does that.
 find_program(LLVM_DLLTOOL llvm-dlltool)
