@@ -169,30 +169,39 @@ void MeasureDragging(Report& report, Library& library, bool quick) {
     if (!quick) TimeSteps(report, library, twin);
 }
 
+namespace {
+
+/// What the dialog sees of a drag from its own thread.
+struct Dragged {
+    HWND dialog = nullptr;
+    double releasedAt = 0;
+    std::wstring shown;
+};
+Dragged g_dragged;
+
+void CALLBACK CloseOnceQuiet(HWND, UINT, UINT_PTR timer, DWORD) {
+    if (g_dragged.releasedAt == 0 || NowMs() < g_dragged.releasedAt + kQuietMs) return;
+    ::KillTimer(g_dragged.dialog, timer);
+    g_dragged.shown = NumberShownBy(g_dragged.dialog);
+    ::PostMessageW(g_dragged.dialog, WM_COMMAND, IDCANCEL, 0);
+}
+
+}  // namespace
+
 void MeasureSlowFilter(Report& report) {
-    // Of the dialog that watches the drag from its own thread.
-    static HWND dialogShown;
-    static double releasedAt;
-    static std::wstring shown;
-    dialogShown = nullptr;
-    releasedAt = 0;
+    g_dragged = {};
     StubHost host;
     std::thread hand;
     WithDialog([&] { ShowLinked(host, EffectId::GammaCorrection); },
                [&](HWND dialog) {
-                   dialogShown = dialog;
+                   g_dragged.dialog = dialog;
                    host.filter.pushMs = kSlowPushMs;
-                   hand = std::thread([dialog] { DragByHand(dialog, releasedAt); });
-                   ::SetTimer(dialog, 77, kQuietMs / 4, [](HWND, UINT, UINT_PTR timer, DWORD) {
-                       if (releasedAt == 0 || NowMs() < releasedAt + kQuietMs) return;
-                       ::KillTimer(dialogShown, timer);
-                       shown = NumberShownBy(dialogShown);
-                       ::PostMessageW(dialogShown, WM_COMMAND, IDCANCEL, 0);
-                   });
+                   hand = std::thread([dialog] { DragByHand(dialog, g_dragged.releasedAt); });
+                   ::SetTimer(dialog, 77, kQuietMs / 4, &CloseOnceQuiet);
                });
     hand.join();
     double late = 0;
-    for (const StubFilter::Push& push : host.filter.pushes) late += push.at > releasedAt ? 1 : 0;
+    for (const StubFilter::Push& push : host.filter.pushes) late += push.at > g_dragged.releasedAt ? 1 : 0;
     report.Add({.what = "pushes to a slow filter after a fast drag's release",
                 .value = late,
                 .limit = kLatePushesLimit,
@@ -200,9 +209,9 @@ void MeasureSlowFilter(Report& report) {
                 .exact = true});
     const int last = host.filter.pushes.empty() ? 0 : host.filter.pushes.back().value;
     report.Add({.what = "the last value pushed less the one shown",
-                .value = std::abs(last - static_cast<double>(::wcstol(shown.c_str(), nullptr, 10))),
+                .value = std::abs(last - static_cast<double>(::wcstol(g_dragged.shown.c_str(), nullptr, 10))),
                 .limit = 0,
-                .detail = Text("%d pushed, %ls shown", last, shown.c_str()),
+                .detail = Text("%d pushed, %ls shown", last, g_dragged.shown.c_str()),
                 .exact = true,
                 .equal = true});
 }

@@ -245,15 +245,14 @@ TEST(GammaDialog, ARefusedCallMeanwhileChangesNothing) {
     EXPECT_EQ(host.OpenReferences(), 0U);
 }
 
+LRESULT CALLBACK RefuseChildWindows(int code, WPARAM wParam, LPARAM lParam) {
+    const auto* window = reinterpret_cast<const CBT_CREATEWNDW*>(lParam);
+    if (code == HCBT_CREATEWND && (window->lpcs->style & WS_CHILD)) return 1;
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 TEST(GammaDialog, OneThatCannotBeCreatedTellsTheHostOfItsEnd) {
-    const HHOOK hook = ::SetWindowsHookExW(
-        WH_CBT,
-        [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
-            const auto* window = reinterpret_cast<const CBT_CREATEWNDW*>(lParam);
-            if (code == HCBT_CREATEWND && (window->lpcs->style & WS_CHILD)) return 1;
-            return ::CallNextHookEx(nullptr, code, wParam, lParam);
-        },
-        nullptr, ::GetCurrentThreadId());
+    const HHOOK hook = ::SetWindowsHookExW(WH_CBT, RefuseChildWindows, nullptr, ::GetCurrentThreadId());
     RecordingHost host(EffectId::GammaCorrection);
     IMediaHost* pointer = &host;
     GammaCorrectionSettings record{1, 100};
@@ -265,28 +264,31 @@ TEST(GammaDialog, OneThatCannotBeCreatedTellsTheHostOfItsEnd) {
     EXPECT_EQ(host.OpenReferences(), 0U);
 }
 
+HWND g_destroyed = nullptr;
+
+void CALLBACK DestroyByTimer(HWND, UINT, UINT_PTR, DWORD) { ::DestroyWindow(g_destroyed); }
+
+LRESULT CALLBACK DestroyByMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_APP + 77) return ::DestroyWindow(g_destroyed);
+    return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
 TEST(GammaDialog, EndsWhenItsWindowIsDestroyedFromOutside) {
     for (const bool fromAnotherThread : {false, true}) {
         SCOPED_TRACE(fromAnotherThread ? "by a message that another thread sent" : "by its own thread");
         GammaSession session({1, 100});
         session.Run([&](DialogDriver& dialog) {
-            static HWND window;
-            window = dialog.Window();
-            const HWND owner = ::GetWindow(window, GW_OWNER);
+            g_destroyed = dialog.Window();
+            const HWND owner = ::GetWindow(g_destroyed, GW_OWNER);
             session.Calls();
             if (fromAnotherThread) ::Sleep(600);  // Until the loop waits with nothing in its queue.
-            const auto destroy = [](HWND, UINT, UINT_PTR, DWORD) { ::DestroyWindow(window); };
             if (fromAnotherThread) {
-                const auto proc = [](HWND self, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-                    if (message == WM_APP + 77) return ::DestroyWindow(window);
-                    return ::DefWindowProcW(self, message, wParam, lParam);
-                };
                 const auto before =
-                    ::SetWindowLongPtrW(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(proc)));
+                    ::SetWindowLongPtrW(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&DestroyByMessage));
                 ::SendMessageW(owner, WM_APP + 77, 0, 0);
                 ::SetWindowLongPtrW(owner, GWLP_WNDPROC, before);
             } else {
-                ::PostMessageW(owner, WM_TIMER, 0, reinterpret_cast<LPARAM>(static_cast<TIMERPROC>(destroy)));
+                ::PostMessageW(owner, WM_TIMER, 0, reinterpret_cast<LPARAM>(&DestroyByTimer));
             }
             EXPECT_TRUE(DialogDriver::WaitFor([&] { return ::IsWindowEnabled(owner) != FALSE; }));
         });

@@ -47,15 +47,7 @@ public:
         m_previous = ::SelectObject(m_dc, m_bitmap);
         HideCaretWhile([&] {
             Take(dialog);
-            ::EnumThreadWindows(
-                ::GetCurrentThreadId(),
-                [](HWND window, LPARAM self) -> BOOL {
-                    if ((::GetWindowLongW(window, GWL_STYLE) & WS_POPUP) && ::IsWindowVisible(window)) {
-                        reinterpret_cast<Picture*>(self)->TakeOther(window);
-                    }
-                    return TRUE;
-                },
-                reinterpret_cast<LPARAM>(this));
+            ::EnumThreadWindows(::GetCurrentThreadId(), &TakePopUp, reinterpret_cast<LPARAM>(this));
         });
         ::GdiFlush();
         m_pixels.assign(static_cast<std::uint32_t*>(bits),
@@ -90,6 +82,13 @@ private:
                  place.bottom - place.top, source, 0, 0, SRCCOPY);
         ::ReleaseDC(window, source);
     }
+    static BOOL CALLBACK TakePopUp(HWND window, LPARAM self) {
+        if ((::GetWindowLongW(window, GWL_STYLE) & WS_POPUP) && ::IsWindowVisible(window)) {
+            reinterpret_cast<Picture*>(self)->TakeOther(window);
+        }
+        return TRUE;
+    }
+
     void TakeOther(HWND window) {
         if (window != m_dialog) Take(window);
     }
