@@ -1,10 +1,8 @@
 #include "skin/skin_folder.h"
 
-#include <shlwapi.h>
-
 const CString& SkinFolder() {
     static CString folder;
-    if (folder.IsEmpty() || !::PathFileExistsW(folder)) {
+    if (folder.IsEmpty() || ::GetFileAttributesW(folder) == INVALID_FILE_ATTRIBUTES) {
         WCHAR path[MAX_PATH] = {};
         ::GetModuleFileNameW(nullptr, path, MAX_PATH);
         folder = path;
