@@ -28,6 +28,12 @@ struct Control {
     std::string help;
 };
 
+/// One of several boxes that stand for a field together.
+struct Choice {
+    int value = 0;
+    Control control;
+};
+
 struct FieldRow {
     std::string name;
     std::size_t offset = 0;
@@ -37,6 +43,8 @@ struct FieldRow {
     int min = 0;
     int max = 0;
     Control control;
+    std::vector<Choice> choices;
+    bool choicesAddUp = false;
 };
 
 struct EffectPage {
@@ -157,13 +165,40 @@ std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, st
     return controls;
 }
 
+/// Finds the boxes that change a field which no control has to itself.
+void ReadChoices(const CRecordDlg& dialog, const std::map<const CSkinControl*, Control>& controls,
+                 const CRecordDlg::BoundField& bound, FieldRow& field) {
+    const auto& [record, binding] = bound;
+    record.value = std::numeric_limits<int>::min();  // No choice: none of the boxes is checked.
+    binding.set(record.value);
+    const int none = binding.get();
+    for (const auto& entry : Reader::ControlsOf(dialog)) {
+        auto* const box = dynamic_cast<CSkinCheckBox*>(entry.control);
+        if (!box) continue;
+        const bool wasChecked = box->IsChecked();
+        box->SetChecked(true);
+        if (binding.get() != none) {
+            field.choices.push_back({binding.get(), controls.at(box)});
+            field.choicesAddUp = !dynamic_cast<CSkinRadioButton*>(box);
+        }
+        box->SetChecked(wasChecked);
+    }
+    record.value = record.standard;
+    binding.set(record.standard);
+}
+
 void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page) {
     const auto controls = ReadControls(dialog, page.controls);
     for (const auto& [bound, binding] : dialog.Fields()) {
         FieldRow& field = page.fields.at(static_cast<std::size_t>(&bound.value - record));
         EXPECT_EQ(field.standard, bound.standard) << page.name << '.' << field.name;
         const auto found = controls.find(binding.control);
-        if (found != controls.end()) field.control = found->second;
+        if (found != controls.end()) {
+            field.control = found->second;
+        } else {
+            ReadChoices(dialog, controls, {bound, binding}, field);
+            EXPECT_FALSE(field.choices.empty()) << page.name << '.' << field.name << " has no control";
+        }
         if (dynamic_cast<CValueSlider*>(binding.control)) {
             field.hasRange = true;
             binding.set(std::numeric_limits<int>::min() / 2);
@@ -272,7 +307,12 @@ std::string Json(const std::vector<EffectPage>& pages) {
             if (field.hasRange) out << ", \"min\": " << field.min << ", \"max\": " << field.max;
             out << ", \"meaning\": " << Quoted(field.meaning);
             if (field.control.id) out << ", \"control\": " << field.control.id;
-            out << '}';
+            if (!field.choices.empty()) out << (field.choicesAddUp ? ", \"bits\": [" : ", \"choices\": [");
+            for (const Choice& choice : field.choices) {
+                out << (&choice == &field.choices.front() ? "" : ", ") << "{\"value\": " << choice.value
+                    << ", \"label\": " << Quoted(choice.control.label) << ", \"control\": " << choice.control.id << '}';
+            }
+            out << (field.choices.empty() ? "}" : "]}");
             separator = ",\n";
         }
         out << "\n        ]\n      },\n      \"controls\": [";
@@ -309,7 +349,12 @@ std::string Markdown(const std::vector<EffectPage>& pages) {
         for (const FieldRow& field : page.fields) {
             out << "| " << field.name << " | " << field.offset << " | " << field.standard << " | ";
             if (field.hasRange) out << field.min << " to " << field.max;
-            out << " | " << field.meaning << " | " << field.control.label << " |\n";
+            out << " | " << field.meaning << " | " << field.control.label;
+            if (field.choicesAddUp) out << "sum of ";
+            for (const Choice& choice : field.choices) {
+                out << (&choice == &field.choices.front() ? "" : ", ") << choice.value << ": " << choice.control.label;
+            }
+            out << " |\n";
         }
     }
     return out.str();
