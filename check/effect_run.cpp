@@ -131,21 +131,22 @@ Calls WithoutSetters(const Calls& calls) {
     return shortened;
 }
 
-Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostFunction createHost, Calls& calls) {
+Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostFunction createHost, CallLog& log) {
     Findings findings;
     std::unique_ptr<RecordingPlayer> player;
     IMediaHost* own = nullptr;
     if (createHost) {
+        log.Begin("CreateEffectSettingsHost()");
         own = createHost();
         if (!own) return {{false, "host", "CreateEffectSettingsHost gave none"}};
-        findings = CheckHost(*own, effect);
+        findings = CheckHost(*own, effect, log);
         // A dialog on a host that does not answer as it must proves nothing more.
         if (std::any_of(findings.begin(), findings.end(), [](const Finding& finding) { return !finding.holds; })) {
             own->Release();
             return findings;
         }
     } else {
-        player = MakeRecordingPlayer(effect, calls);
+        player = MakeRecordingPlayer(effect, log);
     }
 
     {
@@ -155,7 +156,7 @@ Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostF
         SetDefaults(effect, record);
         std::int32_t before[64];
         std::memcpy(before, record, sizeof(record));
-        RecordingHost host(own ? *own : player->Host(), calls);
+        RecordingHost host(own ? *own : player->Host(), log);
         IMediaHost* given = &host;
         std::int32_t result = 0;
         {
@@ -171,10 +172,11 @@ Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostF
         Calls expected = ExpectedCalls(effect);
         // A filter of somebody else's gets its values unseen.
         if (own) expected.erase(std::find(expected.begin(), expected.end(), kPush));
-        const std::string difference = FirstDifference(expected, WithoutSetters(calls));
-        findings.push_back({difference.empty(), "calls",
-                            difference.empty() ? std::to_string(calls.size()) + " calls, in the order that hosts expect"
-                                               : difference});
+        const std::string difference = FirstDifference(expected, WithoutSetters(log.All()));
+        findings.push_back(
+            {difference.empty(), "calls",
+             difference.empty() ? std::to_string(log.All().size()) + " calls, in the order that hosts expect"
+                                : difference});
         findings.push_back(
             {host.LostReferences() == 0, "references",
              host.LostReferences() == 0 ? "all given back"

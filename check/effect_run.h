@@ -10,8 +10,8 @@
 using CreateHostFunction = IMediaHost*(WINAPI*)();
 
 /// @param createHost  Null for the program's own host.
-/// @param calls       Receives the calls that came.
-Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostFunction createHost, Calls& calls);
+/// @param log         Receives the calls that came.
+Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostFunction createHost, CallLog& log);
 
 /// The calls that a host must expect, the filter's as one "filter: all values".
 Calls ExpectedCalls(EffectId effect);

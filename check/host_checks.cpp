@@ -60,7 +60,8 @@ using Getter = HRESULT (STDMETHODCALLTYPE IMediaHost::*)(IProcessorList**);
 
 class HostCheck {
 public:
-    HostCheck(IMediaHost& host, EffectId effect) : m_host(host), m_ids(IdsOf(effect)), m_moniker(m_ids.moniker) {}
+    HostCheck(IMediaHost& host, EffectId effect, CallLog& log)
+        : m_host(host), m_ids(IdsOf(effect)), m_moniker(m_ids.moniker), m_log(log) {}
 
     Findings Run() {
         CheckIdentity();
@@ -79,6 +80,7 @@ private:
     }
 
     void CheckIdentity() {
+        m_log.Begin("QueryInterface, AddRef, Release");
         const ULONG before = ReferencesOf(&m_host);
         void* unknown = nullptr;
         const HRESULT result = m_host.QueryInterface(IID_IUnknown, &unknown);
@@ -89,6 +91,7 @@ private:
 
     ComPtr<IProcessorList> List(const char* operation, Getter getter) {
         ComPtr<IProcessorList> list;
+        m_log.Begin(operation);
         const HRESULT result = (m_host.*getter)(list.GetAddressOf());
         Say(SUCCEEDED(result) && list, operation, "gives a list");
         if (!list) return list;
@@ -102,20 +105,23 @@ private:
         return list;
     }
 
-    LONG Find(IProcessorList& list, BSTR moniker) {
+    LONG Find(const char* operation, IProcessorList& list, BSTR moniker) {
         LONG index = -2;
+        m_log.Begin(operation);
         return FAILED(list.FindByMoniker(moniker, &index)) ? -3 : index;
     }
 
     void CheckChain(IProcessorList& all, IProcessorList& active) {
         const Bstr unknownMoniker(
             L"@device:sw:{00000000-0000-0000-0000-000000000000}\\{00000000-0000-0000-0000-000000000000}");
-        Say(Find(all, unknownMoniker) == -1, "all.FindByMoniker", "gives -1 for a moniker that the list does not hold");
-        const LONG index = Find(all, m_moniker);
+        Say(Find("all.FindByMoniker", all, unknownMoniker) == -1, "all.FindByMoniker",
+            "gives -1 for a moniker that the list does not hold");
+        const LONG index = Find("all.FindByMoniker", all, m_moniker);
         Say(index >= 0, "all.FindByMoniker", "finds the effect's filter by its moniker");
         if (index < 0) return;
 
         ComPtr<IUnknown> item;
+        m_log.Begin("all.GetItem");
         Say(SUCCEEDED(all.GetItem(index, item.GetAddressOf())) && item, "all.GetItem", "gives the item at that index");
         if (!item) return;
         const ULONG itemReferences = ReferencesOf(item.Get());
@@ -128,33 +134,43 @@ private:
         }
         {
             IUnknown* none = nullptr;
+            m_log.Begin("all.GetItem");
             const HRESULT result = all.GetItem(0x7FFFFFFF, &none);
             Say(FAILED(result) && !none, "all.GetItem", "fails for an index that is not there, and gives null");
         }
 
-        const LONG standing = Find(active, m_moniker);
-        if (standing >= 0) active.RemoveAt(standing);
-        Say(Find(active, m_moniker) == -1, "active.RemoveAt", "takes the filter out of the chain");
+        const LONG standing = Find("active.FindByMoniker", active, m_moniker);
+        if (standing >= 0) {
+            m_log.Begin("active.RemoveAt");
+            active.RemoveAt(standing);
+        }
+        Say(Find("active.FindByMoniker", active, m_moniker) == -1, "active.RemoveAt",
+            "takes the filter out of the chain");
         const ULONG outside = ReferencesOf(item.Get());
+        m_log.Begin("active.Add");
         Say(SUCCEEDED(active.Add(item.Get(), 0)), "active.Add", "takes what all.GetItem gave");
-        const LONG added = Find(active, m_moniker);
+        const LONG added = Find("active.FindByMoniker", active, m_moniker);
         Say(added >= 0, "active.FindByMoniker", "finds the filter that was just added");
         Say(ReferencesOf(item.Get()) > outside, "active.Add", "takes a reference of its own to the item");
         CheckObject();
         if (added >= 0) {
+            m_log.Begin("active.RemoveAt");
             Say(SUCCEEDED(active.RemoveAt(added)), "active.RemoveAt", "succeeds");
-            Say(Find(active, m_moniker) == -1, "active.RemoveAt", "takes the filter out of the chain");
+            Say(Find("active.FindByMoniker", active, m_moniker) == -1, "active.RemoveAt",
+                "takes the filter out of the chain");
             Say(ReferencesOf(item.Get()) == outside, "active.RemoveAt", "drops the list's reference to the item");
         }
     }
 
     void CheckObject() {
         ComPtr<IUnknown> object;
+        m_log.Begin("GetProcessorObject");
         const HRESULT result =
             m_host.GetProcessorObject(m_ids.isAudio ? kAudioProcessorKind : kVideoProcessorKind, object.GetAddressOf());
         Say(SUCCEEDED(result) && object, "GetProcessorObject", "gives the object of the filter that was just added");
         if (!object) return;
         ComPtr<IUnknown> properties;
+        m_log.Begin("attached object");
         const HRESULT answer =
             object->QueryInterface(m_ids.propertyInterface, reinterpret_cast<void**>(properties.GetAddressOf()));
         Say(SUCCEEDED(answer) && properties, "attached object", "answers for the effect's property interface");
@@ -163,9 +179,10 @@ private:
     IMediaHost& m_host;
     const EffectIds m_ids;
     const Bstr m_moniker;
+    CallLog& m_log;
     Findings m_findings;
 };
 
 }  // namespace
 
-Findings CheckHost(IMediaHost& host, EffectId effect) { return HostCheck(host, effect).Run(); }
+Findings CheckHost(IMediaHost& host, EffectId effect, CallLog& log) { return HostCheck(host, effect, log).Run(); }

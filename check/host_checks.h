@@ -5,4 +5,4 @@
 #include "effect_settings/effect_settings.h"
 #include "effect_settings/media_host.h"
 
-Findings CheckHost(IMediaHost& host, EffectId effect);
+Findings CheckHost(IMediaHost& host, EffectId effect, CallLog& log);

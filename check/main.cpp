@@ -16,21 +16,21 @@
 namespace {
 
 constexpr char kUsage[] =
-    "Usage: EffectSettingsCheck [--host YOURHOST.DLL] [--effect NAME] [--json]\n"
+    "Usage: EffectSettingsCheck [--host YOURHOST.DLL] [--effect NAME] [--seconds NUMBER] [--json]\n"
     "Checks EffectSettings.dll in its own folder, and opens and closes the dialog of each effect in a process of its "
     "own.\n"
     "  --host    with the host that YOURHOST.DLL makes: extern \"C\" IMediaHost* WINAPI "
     "CreateEffectSettingsHost(void);\n"
     "            first tries the host's operations one by one\n"
     "  --effect  with one effect only, such as GammaCorrection\n"
+    "  --seconds how long one effect may take before it counts as hanging: 30 if not given\n"
     "  --json    for programs\n"
     "Exit code: 0 all holds, 1 something does not, 2 wrong arguments.\n";
-
-constexpr DWORD kChildTimeLimit = 30'000;
 
 struct Arguments {
     std::wstring host;
     std::optional<EffectId> effect;
+    int seconds = 30;
     bool json = false;
     std::wstring report;  ///< In a process for one effect: the file that takes its findings.
 };
@@ -67,6 +67,9 @@ std::optional<Arguments> ReadArguments(int count, wchar_t** values) {
         } else if (option == L"--effect" && hasValue) {
             arguments.effect = EffectNamed(values[++i]);
             if (!arguments.effect) return std::nullopt;
+        } else if (option == L"--seconds" && hasValue) {
+            arguments.seconds = _wtoi(values[++i]);
+            if (arguments.seconds < 1 || arguments.seconds > 3600) return std::nullopt;
         } else {
             return std::nullopt;
         }
@@ -110,15 +113,40 @@ int RunOneEffect(const Arguments& arguments) {
         if (!createHost)
             findings = {{false, "host", hostLibrary ? "exports no CreateEffectSettingsHost" : "cannot be loaded"}};
     }
-    Calls calls;
-    if (findings.empty()) findings = RunEffect(show, *arguments.effect, createHost, calls);
     std::ofstream report(arguments.report.c_str());
+    CallLog log(report);
+    if (findings.empty()) findings = RunEffect(show, *arguments.effect, createHost, log);
     for (const Finding& finding : findings)
         report << finding.holds << '\t' << finding.what << '\t' << finding.detail << '\n';
     return report.flush() ? 0 : 1;
 }
 
 // The process that starts the others
+
+struct ChildReport {
+    Findings findings;
+    std::string lastCall = "none";  ///< That had begun.
+};
+
+ChildReport ReadReport(const wchar_t* path) {
+    ChildReport report;
+    std::ifstream lines(path);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        std::string kind;
+        Finding finding;
+        std::getline(fields, kind, '\t');
+        std::getline(fields, finding.what, '\t');
+        std::getline(fields, finding.detail);
+        finding.holds = kind == "1";
+        if (kind == CallLog::kBegun) {
+            report.lastCall = finding.what;
+        } else {
+            report.findings.push_back(finding);
+        }
+    }
+    return report;
+}
 
 /// What the process for one effect found, or how it ended.
 Findings EffectInItsOwnProcess(const Arguments& arguments, EffectId effect) {
@@ -137,7 +165,8 @@ Findings EffectInItsOwnProcess(const Arguments& arguments, EffectId effect) {
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
         return {{false, "process", "cannot be started, error " + std::to_string(GetLastError())}};
     }
-    const bool ended = WaitForSingleObject(process.hProcess, kChildTimeLimit) == WAIT_OBJECT_0;
+    const bool ended =
+        WaitForSingleObject(process.hProcess, static_cast<DWORD>(arguments.seconds) * 1000) == WAIT_OBJECT_0;
     if (!ended) {
         TerminateProcess(process.hProcess, 1);
         WaitForSingleObject(process.hProcess, INFINITE);
@@ -147,29 +176,18 @@ Findings EffectInItsOwnProcess(const Arguments& arguments, EffectId effect) {
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
 
-    Findings findings;
-    {
-        std::ifstream lines(report);
-        for (std::string line; std::getline(lines, line);) {
-            std::istringstream fields(line);
-            std::string holds;
-            Finding finding;
-            std::getline(fields, holds, '\t');
-            std::getline(fields, finding.what, '\t');
-            std::getline(fields, finding.detail);
-            finding.holds = holds == "1";
-            findings.push_back(finding);
-        }
-    }
+    ChildReport found = ReadReport(report);
     DeleteFileW(report);
-    char text[64];
     if (!ended) {
-        findings.push_back({false, "end", "hangs: not closed within 30 seconds"});
-    } else if (code != 0 || findings.empty()) {
+        found.findings.push_back({false, "end",
+                                  "hangs: not closed within " + std::to_string(arguments.seconds) +
+                                      " seconds; the last call was " + found.lastCall});
+    } else if (code != 0 || found.findings.empty()) {
+        char text[64];
         std::snprintf(text, sizeof(text), "crashes: exit code 0x%08lX", code);
-        findings.push_back({false, "end", text});
+        found.findings.push_back({false, "end", text + ("; the last call was " + found.lastCall)});
     }
-    return findings;
+    return found.findings;
 }
 
 class Report {

@@ -12,7 +12,7 @@ using effect_settings::PreviewHost;
 template <typename Filter>
 class Player : public RecordingPlayer {
 public:
-    explicit Player(Calls& calls) : m_filter(calls), m_host(m_filter) {}
+    explicit Player(CallLog& log) : m_filter(log), m_host(m_filter) {}
     IMediaHost& Host() override { return m_host; }
 
 private:
@@ -25,16 +25,16 @@ Parameter ParameterOf(HRESULT (STDMETHODCALLTYPE Interface::*setter)(Parameter))
 
 #define SETTER(name)                                                                   \
     HRESULT STDMETHODCALLTYPE name(decltype(ParameterOf(&Interface::name))) override { \
-        m_calls.emplace_back("filter." #name);                                         \
+        m_log.Add("filter." #name);                                                    \
         return S_OK;                                                                   \
     }
 #define FILTER(effect)                                                   \
     class effect##Filter final : public PreviewFilter<IEffect##effect> { \
         using Interface = IEffect##effect;                               \
-        Calls& m_calls;                                                  \
+        CallLog& m_log;                                                  \
                                                                          \
     public:                                                              \
-        explicit effect##Filter(Calls& calls) : m_calls(calls) {}
+        explicit effect##Filter(CallLog& log) : m_log(log) {}
 
 FILTER(AutoContrast)
 SETTER(put_Enable)
@@ -322,11 +322,11 @@ SETTER(SetChorusParams)
 
 }  // namespace
 
-std::unique_ptr<RecordingPlayer> MakeRecordingPlayer(EffectId effect, Calls& calls) {
+std::unique_ptr<RecordingPlayer> MakeRecordingPlayer(EffectId effect, CallLog& log) {
     switch (effect) {
 #define PLAYER(name, number) \
     case EffectId::name:     \
-        return std::make_unique<Player<name##Filter>>(calls);
+        return std::make_unique<Player<name##Filter>>(log);
         EFFECT_SETTINGS_EFFECTS(PLAYER)
     }
     return nullptr;

@@ -14,4 +14,4 @@ public:
 };
 
 /// @param calls  Has to outlive the player.
-std::unique_ptr<RecordingPlayer> MakeRecordingPlayer(EffectId effect, Calls& calls);
+std::unique_ptr<RecordingPlayer> MakeRecordingPlayer(EffectId effect, CallLog& log);

@@ -32,7 +32,7 @@ private:
 
 class RecordingList final : public Counted<IProcessorList> {
 public:
-    RecordingList(const char* name, Calls& calls) : m_name(name), m_calls(calls) {}
+    RecordingList(const char* name, CallLog& log) : m_name(name), m_log(log) {}
 
     HRESULT STDMETHODCALLTYPE GetItem(LONG index, IUnknown** item) override;
     HRESULT STDMETHODCALLTYPE FindByMoniker(BSTR moniker, LONG* index) override;
@@ -45,14 +45,14 @@ public:
 
 private:
     const char* m_name;
-    Calls& m_calls;
+    CallLog& m_log;
     IProcessorList* m_list = nullptr;
 };
 
 class RecordingHost final : public Counted<IMediaHost> {
 public:
     /// @param host  Borrowed; has to outlive this one.
-    RecordingHost(IMediaHost& host, Calls& calls);
+    RecordingHost(IMediaHost& host, CallLog& log);
     ~RecordingHost();
 
     HRESULT STDMETHODCALLTYPE RefreshPreview() override;
@@ -78,7 +78,7 @@ private:
                  RecordingList& recording, IProcessorList** list);
 
     IMediaHost& m_host;
-    Calls& m_calls;
+    CallLog& m_log;
     RecordingList m_all;
     RecordingList m_active;
     bool m_started = false;

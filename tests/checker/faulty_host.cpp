@@ -53,6 +53,7 @@ public:
         return result;
     }
     HRESULT STDMETHODCALLTYPE FindByMoniker(BSTR moniker, LONG* index) override {
+        if (Has("hang")) Sleep(INFINITE);
         const HRESULT result = list->FindByMoniker(moniker, index);
         if (Has("finds everything") && *index < 0) *index = 0;
         return result;
@@ -69,6 +70,7 @@ class Host final : public Static<IMediaHost> {
 public:
     HRESULT STDMETHODCALLTYPE RefreshPreview() override {
         if (Has("crash")) *static_cast<volatile int*>(nullptr) = 0;
+        if (Has("hang in a dialog")) Sleep(INFINITE);
         return m_host.RefreshPreview();
     }
     HRESULT STDMETHODCALLTYPE StopPreview() override { return m_host.StopPreview(); }
