@@ -47,6 +47,12 @@ public:
     /// @param seconds  Since the preview started.
     virtual void Draw(HDC dc, const RECT& area, double seconds) = 0;
 
+    /// @param color  0x00BBGGRR, as RGB makes it.
+    static void Fill(HDC dc, const RECT& area, COLORREF color) {
+        SetDCBrushColor(dc, color);
+        FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+
 protected:
     ~PreviewPicture() = default;
 };

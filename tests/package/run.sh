@@ -23,6 +23,38 @@ for preset in x64 x86; do
     "$tools-gcc-posix" tests/package/call_from_c.c -o "$built/bin/call_by_pkgconf.exe" \
         $(PKG_CONFIG_LIBDIR=$unpacked/lib/pkgconfig pkg-config --cflags --libs EffectSettings)
 done
+say "Following docs/integration.md with the host of the README"
+unpacked=$(echo "$consumer"/x64/EffectSettings-*)
+walk=$consumer/walk
+mkdir "$walk"
+sed -n '/^```cpp$/,/^```$/{/^```/d;p}' "$unpacked/README.md" >"$walk/minimal_host.cpp"
+cmp "$walk/minimal_host.cpp" "$unpacked/examples/minimal_host.cpp"
+sed -n '/^ *cmake_minimum_required/,/^$/p' "$unpacked/docs/integration.md" >"$walk/CMakeLists.txt"
+sed -n '/-DCMAKE_SYSTEM_NAME/,/^$/p' "$unpacked/docs/integration.md" |
+    sed "s#=/path/to/EffectSettings-.*-x64#='$unpacked'#" >"$walk/commands"
+(cd "$walk" && CMAKE_GENERATOR=Ninja bash -e commands >commands.log)
+diff - <(
+    export WINEPATH=$consumer/x64/build/bin
+    for host in "$walk/build/my_host.exe" "$unpacked/bin/minimal_host.exe" "$unpacked/bin/minimal_host_c.exe" \
+        "$unpacked/bin/demo_host.exe gamma-correction"; do
+        timeout 120 scripts/run-wine press_ok.exe "$host" | tr -d '\r'
+    done
+) <<'END' || {
+Gamma Correction Settings: the picture moves
+Gamma Correction Settings: the picture moves
+EffectSettings
+Gamma Correction Settings
+gamma 100, on
+EffectSettings demo: the picture moves
+Auto Contrast Setting: the picture moves
+Gamma Correction Settings: the picture moves
+before: enabled=1 value=100
+result: 1 (OK)
+after: enabled=1 value=100
+END
+    echo "A host of the archive does not show what it should." >&2
+    exit 1
+}
 say "Running the 64-bit host and the checker"
 for program in call_from_c call_from_c_by_lib call_by_pkgconf open_all; do
     timeout 120 scripts/run-wine "$consumer/x64/build/bin/$program.exe" || {
