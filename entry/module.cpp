@@ -3,6 +3,7 @@
 
 #include "skin/fonts.h"
 #include "skin/gdi_plus.h"
+#include "skin/system_library.h"
 
 namespace {
 
@@ -15,6 +16,7 @@ public:
 
     int ExitInstance() override {
         ReleaseSharedDrawing();
+        ReleaseSystemLibraries();
         StopGdiPlus();
         return CWinApp::ExitInstance();
     }

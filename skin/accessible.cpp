@@ -2,23 +2,10 @@
 
 #include <vector>
 
-#include <atlcore.h>
-
 #include "skin/skin_dialog.h"
+#include "skin/system_library.h"
 
 namespace {
-
-/// Stays loaded: whoever asked once asks again.
-HMODULE Oleacc() {
-    static const HMODULE library = ATL::AtlLoadSystemLibraryUsingFullPath(L"oleacc.dll");
-    return library;
-}
-
-template <typename Function>
-Function OleaccFunction(const char* name) {
-    const FARPROC found = Oleacc() ? ::GetProcAddress(Oleacc(), name) : nullptr;
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
-}
 
 bool IsLabel(const CSkinControl& control) {
     const ControlFacts facts = control.Facts();
@@ -129,7 +116,7 @@ public:
                 return S_OK;
             }
             const auto fromWindow =
-                OleaccFunction<decltype(&::AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
+                AccessibilityLibrary().Find<decltype(&::AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
             return fromWindow ? fromWindow(dialog.GetSafeHwnd(), static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
                                            reinterpret_cast<void**>(parent))
                               : S_FALSE;
@@ -339,7 +326,7 @@ CAccessibility::CAccessibility(CSkinDialog& dialog) : m_link(std::make_shared<Li
 CAccessibility::~CAccessibility() { Disconnect(); }
 
 LRESULT CAccessibility::ObjectFor(LONG child, WPARAM wParam) {
-    const auto lresultFromObject = OleaccFunction<decltype(&::LresultFromObject)>("LresultFromObject");
+    const auto lresultFromObject = AccessibilityLibrary().Find<decltype(&::LresultFromObject)>("LresultFromObject");
     if (!lresultFromObject || !m_link->dialog) return 0;
     auto* element = new CElement(m_link, child);
     const LRESULT result = lresultFromObject(__uuidof(IAccessible), wParam, element);

@@ -1,14 +1,28 @@
 #include "skin/drawing.h"
 
-#include <atlcore.h>
-
+#include <atomic>
 #include <utility>
 
 #include "skin/fonts.h"
 #include "skin/off_screen.h"
+#include "skin/system_library.h"
+
+namespace {
+
+std::atomic<unsigned> g_failedDrawings = 0;
+
+void Note(bool drawn) {
+    if (!drawn) ++g_failedDrawings;
+}
+
+}  // namespace
+
+unsigned FailedDrawings() { return g_failedDrawings; }
 
 CMemoryDC::CMemoryDC(HDC compatible, HBITMAP bitmap)
-    : m_dc(::CreateCompatibleDC(compatible)), m_previous(::SelectObject(m_dc, bitmap)) {}
+    : m_dc(::CreateCompatibleDC(compatible)), m_previous(::SelectObject(m_dc, bitmap)) {
+    Note(m_previous != nullptr);
+}
 
 CMemoryDC::~CMemoryDC() {
     ::SelectObject(m_dc, m_previous);
@@ -36,18 +50,11 @@ void CBufferedPaint::CopyFrom(HBITMAP bitmap, CPoint from) const {
 }
 
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color) {
-    ::SetDCBrushColor(dc, color);
-    ::FillRect(dc, rect, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+    const bool coloured = ::SetDCBrushColor(dc, color) != CLR_INVALID;
+    Note(::FillRect(dc, rect, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH))) && coloured);
 }
 
 void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bottom) {
-    using GradientFillFunction = decltype(&::GradientFill);
-    // Never unloaded: the library needs it as long as it can draw.
-    static const GradientFillFunction gradientFill = [] {
-        const HMODULE library = ATL::AtlLoadSystemLibraryUsingFullPath(L"msimg32.dll");
-        const FARPROC found = library ? ::GetProcAddress(library, "GradientFill") : nullptr;
-        return reinterpret_cast<GradientFillFunction>(reinterpret_cast<void*>(found));
-    }();
     if (rect.Width() <= 0 || rect.Height() <= 0) return;
     if (IsHighContrast()) return FillRectangle(dc, rect, GroundColor(top));
     const auto vertex = [](int x, int y, COLORREF color) {
@@ -56,7 +63,10 @@ void FillVerticalGradient(HDC dc, const CRect& rect, COLORREF top, COLORREF bott
     };
     TRIVERTEX corners[] = {vertex(rect.left, rect.top, top), vertex(rect.right, rect.bottom, bottom)};
     GRADIENT_RECT mesh{0, 1};
-    if (!gradientFill || !gradientFill(dc, corners, 2, &mesh, 1, GRADIENT_FILL_RECT_V)) FillRectangle(dc, rect, top);
+    const auto gradientFill = GradientLibrary().Find<decltype(&::GradientFill)>("GradientFill");
+    if (gradientFill && gradientFill(dc, corners, 2, &mesh, 1, GRADIENT_FILL_RECT_V)) return;
+    Note(false);
+    FillRectangle(dc, rect, top);
 }
 
 void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle) {
@@ -67,8 +77,8 @@ void FillFace(HDC dc, const CRect& rect, COLORREF edge, COLORREF middle) {
 
 void DrawLines(HDC dc, const POINT* points, int count, COLORREF color) {
     const HGDIOBJ previous = ::SelectObject(dc, ::GetStockObject(DC_PEN));
-    ::SetDCPenColor(dc, InkColor(color));
-    ::Polyline(dc, points, count);
+    const bool coloured = ::SetDCPenColor(dc, InkColor(color)) != CLR_INVALID;
+    Note(::Polyline(dc, points, count) && previous && coloured);
     ::SelectObject(dc, previous);
 }
 
@@ -121,6 +131,8 @@ CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
     SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
 }
+
+CTextGraphics::~CTextGraphics() { Note(GetLastStatus() == Gdiplus::Ok); }
 
 void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, const CRect& rect,
                 TextLayout layout, const Gdiplus::Color& color) {

@@ -97,6 +97,8 @@ private:
     std::unique_ptr<COffScreen> m_screen;  // Null when there is no memory for it.
 };
 
+/// How much could not be drawn so far, on any thread, since the system had no memory: nobody keeps what was drawn meanwhile.
+unsigned FailedDrawings();
 /// Fills a rectangle out of a bitmap, from a point of it on.
 void CopyBitmap(HDC target, const CRect& rect, HBITMAP bitmap, CPoint from);
 /// In exactly this colour; the other helpers draw in InkColor and GroundColor of theirs.
@@ -127,6 +129,7 @@ inline Gdiplus::Color Ink(COLORREF color) { return OpaqueColor(InkColor(color));
 class CTextGraphics : public Gdiplus::Graphics {
 public:
     explicit CTextGraphics(HDC dc);
+    ~CTextGraphics();
 };
 
 /// How a text lies in its rectangle.

@@ -126,25 +126,34 @@ CString GenericSansSerif() {
     return CString(name);
 }
 
+bool IsInstalled(const CString& face) {
+    const Gdiplus::FontFamily family(face);
+    if (family.GetLastStatus() == Gdiplus::OutOfMemory) throw std::bad_alloc();
+    return family.IsAvailable();
+}
+
 /// The name of the family that stands in for a face that is not there.
 CString SubstituteFor(LPCWSTR face) {
     // The generic family may be missing too, hence the likely faces of machines without Arial.
     for (const CString& name : {CString(face), GenericSansSerif(), CString(L"Arial"), CString(L"Liberation Sans"),
                                 CString(L"DejaVu Sans"), CString(L"Microsoft Sans Serif"), CString(L"Tahoma")}) {
-        if (Gdiplus::FontFamily(name).IsAvailable()) return name;
+        if (IsInstalled(name)) return name;
     }
     return AnyInstalledFamily();
+}
+
+void CopyAllButCorners(HDC dc, CSize size, HBITMAP picture) {
+    for (const CRect& part : {CRect(1, 0, size.cx - 1, size.cy), CRect(0, 1, 1, size.cy - 1),
+                              CRect(size.cx - 1, 1, size.cx, size.cy - 1)}) {
+        CopyBitmap(dc, part, picture, part.TopLeft());
+    }
 }
 
 bool CopyKept(HDC dc, CSize size, const std::wstring& key) {
     const CSharedLock lock;
     const auto found = Shared().drawn.find(key);
     if (found == Shared().drawn.end()) return false;
-    // All but the corner pixels.
-    for (const CRect& part : {CRect(1, 0, size.cx - 1, size.cy), CRect(0, 1, 1, size.cy - 1),
-                              CRect(size.cx - 1, 1, size.cx, size.cy - 1)}) {
-        CopyBitmap(dc, part, found->second.Get(), part.TopLeft());
-    }
+    CopyAllButCorners(dc, size, found->second.Get());
     return true;
 }
 
@@ -192,7 +201,7 @@ const Gdiplus::Font* TextFont(LPCWSTR face, float emPixels, Gdiplus::FontStyle s
 
 const Gdiplus::Font* MatchingFont(HFONT font) {
     LOGFONTW description{};
-    ::GetObjectW(font, sizeof(description), &description);
+    if (!::GetObjectW(font, sizeof(description), &description)) return nullptr;
     if (const auto* family = FontFamilyFor(description.lfFaceName)) family->GetFamilyName(description.lfFaceName);
     return FindOrMake(&SharedDrawing::matchingFonts, font, [&](auto& map) {
         const CBorrowedDC screen(nullptr);
@@ -227,22 +236,26 @@ Gdiplus::Bitmap* SharedPicture(LPCWSTR file) {
         const auto height = static_cast<INT>(picture.GetHeight());
         const auto made = map.try_emplace(key, width, height, PixelFormat32bppARGB).first;
         Gdiplus::Graphics graphics(&made->second);
-        graphics.DrawImage(&picture, Gdiplus::Rect(0, 0, width, height), 0, 0, width, height, Gdiplus::UnitPixel);
+        const Gdiplus::Rect whole(0, 0, width, height);
+        if (graphics.DrawImage(&picture, whole, 0, 0, width, height, Gdiplus::UnitPixel) != Gdiplus::Ok) {
+            map.erase(made);
+            throw std::bad_alloc();
+        }
         return made;
     });
 }
 
 void DrawKept(HDC dc, CSize size, const std::wstring& key, const std::function<void(HDC)>& paint) {
     if (CopyKept(dc, size, key)) return;
-    {
-        const CBorrowedDC display(nullptr);
-        CBitmapHandle picture{::CreateCompatibleBitmap(display, size.cx, size.cy)};
-        if (!picture) return;
-        paint(CMemoryDC(display, picture.Get()));
-        const CSharedLock lock;
-        Shared().drawn.try_emplace(key, std::move(picture));
-    }
-    CopyKept(dc, size, key);
+    const CBorrowedDC display(nullptr);
+    CBitmapHandle picture{::CreateCompatibleBitmap(display, size.cx, size.cy)};
+    if (!picture) return;
+    const unsigned failed = FailedDrawings();
+    paint(CMemoryDC(display, picture.Get()));
+    CopyAllButCorners(dc, size, picture.Get());
+    if (FailedDrawings() != failed) return;
+    const CSharedLock lock;
+    Shared().drawn.try_emplace(key, std::move(picture));
 }
 
 void ReleaseSharedDrawing() {

@@ -3,5 +3,5 @@
 
 #include <afxwin.h>
 
-/// The folder with a backslash at its end. Kept between calls and looked up again when it is gone.
-const CString& SkinFolder();
+/// The folder with a backslash at its end.
+CString SkinFolder();
