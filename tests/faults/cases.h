@@ -24,10 +24,10 @@ std::vector<Case> ImportFaultCases();
 std::vector<Case> InputCases();
 std::vector<Case> SlopeCases();
 
-/// Ends with the picture's sum for a status: see UsualPicture.
-int ShowUsualPicture();
-/// What the dialog of the import faults looks like in a process where nothing fails.
-unsigned UsualPicture();
+/// What the dialogs of the import faults look like where nothing fails: each in a process whose status is the picture's
+/// sum. They are taken before the cases run, for all their processes.
+int ShowUsualPicture(std::size_t scene);
+void TakeUsualPictures();
 /// The status that a process of this program ended with.
 DWORD RunInProcess(const std::string& arguments, DWORD limitMs);
 

@@ -53,7 +53,7 @@ int RunCase(const Case& test, const Settings& settings) {
 }
 
 int RunAll(const std::vector<Case>& cases, const Settings& settings, const std::string& prefix) {
-    if (std::string("imports").starts_with(prefix.substr(0, 7))) UsualPicture();  // Once, for all their processes.
+    TakeUsualPictures();
     int failed = 0;
     int run = 0;
     for (const Case& test : cases) {
@@ -124,8 +124,8 @@ int main(int argc, char** argv) {
             settings.seed = static_cast<unsigned>(std::strtoul(argv[++index], nullptr, 10));
         } else if (argument == "--case" && index + 1 < argc) {
             only = argv[++index];
-        } else if (argument == "--picture") {
-            return ShowUsualPicture();
+        } else if (argument == "--picture" && index + 1 < argc) {
+            return ShowUsualPicture(std::strtoul(argv[++index], nullptr, 10));
         } else if (argument == "--list") {
             for (const Case& test : cases) std::puts(test.name.c_str());
             return 0;
