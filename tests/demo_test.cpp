@@ -206,7 +206,7 @@ std::wstring TemporaryFile(const wchar_t* name) {
 }
 
 /// Runs the demo; gives its exit code and what it wrote to stderr.
-std::pair<DWORD, std::string> RunDemo(const std::wstring& arguments) {
+std::pair<DWORD, std::string> RunDemo(const std::wstring& arguments, const std::wstring& program = L"demo_host.exe") {
     const std::wstring log = TemporaryFile(L"demo-test.log");
     SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
     STARTUPINFOW start{};
@@ -214,7 +214,7 @@ std::pair<DWORD, std::string> RunDemo(const std::wstring& arguments) {
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdError = ::CreateFileW(log.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
     start.hStdOutput = ::GetStdHandle(STD_OUTPUT_HANDLE);
-    std::wstring commandLine = L"demo_host.exe " + arguments;
+    std::wstring commandLine = program + L" " + arguments;
     PROCESS_INFORMATION process{};
     DWORD exitCode = 99;
     if (::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process)) {
@@ -270,6 +270,21 @@ TEST(DemoProgram, ExitCodesAndMessagesTellWhatIsWrong) {
     EXPECT_FALSE(WriteWholeFile(folder, content));
     WIN32_FIND_DATAW found;
     EXPECT_EQ(::FindFirstFileW((folder + L".*.tmp").c_str(), &found), INVALID_HANDLE_VALUE);
+}
+
+TEST(DemoProgram, ADialogThatDidNotOpenIsAFailure) {
+    // Beside it stands a library that shows nothing and gives what the variable says.
+    const std::wstring program = L"no_dialogs\\demo_host.exe";
+    ASSERT_TRUE(::CopyFileW(L"demo_host.exe", program.c_str(), FALSE));
+    const std::string refused = "demo: the dialog did not open\n";
+    const struct {
+        const wchar_t* result;
+        std::pair<DWORD, std::string> told;
+    } rows[] = {{L"-1", {1, refused}}, {L"0", {1, refused}}, {L"1", {0, ""}}, {L"2", {0, ""}}};
+    for (const auto& row : rows) {
+        ASSERT_TRUE(::SetEnvironmentVariableW(L"RESULT", row.result));
+        EXPECT_EQ(RunDemo(L"gamma-correction", program), row.told) << row.result;
+    }
 }
 
 }  // namespace
