@@ -107,6 +107,7 @@ int RunOneEffect(const Arguments& arguments) {
     const auto show = As<ShowSettingsDialogFunction>(library ? GetProcAddress(library, "ShowSettingsDialog") : nullptr);
     CreateHostFunction createHost = nullptr;
     Findings findings;
+    if (!show) findings = {{false, "library", "ShowSettingsDialog cannot be called"}};
     if (!arguments.host.empty()) {
         const HMODULE hostLibrary = LoadLibraryW(arguments.host.c_str());
         createHost = As<CreateHostFunction>(hostLibrary ? HostFactory(hostLibrary) : nullptr);

@@ -124,8 +124,9 @@ private:
     ULONG m_references = 1;
 };
 
-/// The player: one filter that can be used, a chain that is empty or holds it, and a preview that the filter draws.
-class PreviewHost final : public IMediaHost {
+/// The player: one filter that can be used, a chain that is empty or holds it, and a preview that the filter draws. A class
+/// of yours can derive from it and replace it operation by operation.
+class PreviewHost : public IMediaHost {
 public:
     template <typename Interface>
     explicit PreviewHost(PreviewFilter<Interface>& filter)

@@ -24,10 +24,11 @@ struct Gamma : PreviewFilter<IEffectGammaCorrection> {
     HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams) override { return S_OK; }
 };
 
-/// Identity and counting of an object that is never deleted.
-template <typename Interface>
-class Static : public Interface {
+/// Passes calls on to another list. It is never deleted.
+class List final : public IProcessorList {
 public:
+    IProcessorList* list = nullptr;
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         *object = iid == IID_IUnknown ? this : nullptr;
         if (*object) AddRef();
@@ -35,17 +36,6 @@ public:
     }
     ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
     ULONG STDMETHODCALLTYPE Release() override { return --m_references; }
-
-protected:
-    ~Static() = default;
-
-private:
-    ULONG m_references = 1;
-};
-
-class List final : public Static<IProcessorList> {
-public:
-    IProcessorList* list = nullptr;
 
     HRESULT STDMETHODCALLTYPE GetItem(LONG index, IUnknown** item) override {
         const HRESULT result = list->GetItem(index, item);
@@ -64,36 +54,27 @@ public:
     HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) override {
         return Has("adds nothing") ? S_OK : list->Add(item, option);
     }
+
+private:
+    ULONG m_references = 1;
 };
 
-class Host final : public Static<IMediaHost> {
+class Host final : public PreviewHost {
 public:
+    using PreviewHost::PreviewHost;
+
     HRESULT STDMETHODCALLTYPE RefreshPreview() override {
         if (Has("crash")) *static_cast<volatile int*>(nullptr) = 0;
         if (Has("hang in a dialog")) Sleep(INFINITE);
-        return m_host.RefreshPreview();
+        return PreviewHost::RefreshPreview();
     }
-    HRESULT STDMETHODCALLTYPE StopPreview() override { return m_host.StopPreview(); }
-    HRESULT STDMETHODCALLTYPE SetPreviewOption(LONG option) override { return m_host.SetPreviewOption(option); }
-    HRESULT STDMETHODCALLTYPE SetPreviewWindow(LONG window) override { return m_host.SetPreviewWindow(window); }
-    HRESULT STDMETHODCALLTYPE EnableVideoPreview(LONG enable) override { return m_host.EnableVideoPreview(enable); }
-    HRESULT STDMETHODCALLTYPE SetPreviewRange(LONG start, LONG stop) override {
-        return m_host.SetPreviewRange(start, stop);
-    }
-    HRESULT STDMETHODCALLTYPE SetPreviewMode(LONG mode) override { return m_host.SetPreviewMode(mode); }
-    HRESULT STDMETHODCALLTYPE ResetPreview() override { return m_host.ResetPreview(); }
-    HRESULT STDMETHODCALLTYPE GetAudioProcessors(IProcessorList**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetActiveAudioProcessors(IProcessorList**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetVideoProcessors(IProcessorList** list) override {
-        if (!m_all.list) m_host.GetVideoProcessors(&m_all.list);
+        if (!m_all.list) PreviewHost::GetVideoProcessors(&m_all.list);
         return Give(m_all, list);
     }
     HRESULT STDMETHODCALLTYPE GetActiveVideoProcessors(IProcessorList** list) override {
-        if (!m_active.list) m_host.GetActiveVideoProcessors(&m_active.list);
+        if (!m_active.list) PreviewHost::GetActiveVideoProcessors(&m_active.list);
         return Give(m_active, list);
-    }
-    HRESULT STDMETHODCALLTYPE GetProcessorObject(LONG kind, IUnknown** object) override {
-        return m_host.GetProcessorObject(kind, object);
     }
 
 private:
@@ -103,8 +84,6 @@ private:
         return S_OK;
     }
 
-    Gamma m_filter;
-    PreviewHost m_host{m_filter};
     List m_all;
     List m_active;
 };
@@ -112,7 +91,8 @@ private:
 }  // namespace
 
 extern "C" __declspec(dllexport) IMediaHost* WINAPI CreateEffectSettingsHost() {
-    static Host host;
+    static Gamma filter;
+    static Host host(filter);
     host.AddRef();
     return &host;
 }
