@@ -1,17 +1,15 @@
 #include "imports.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <initializer_list>
+#include <map>
 #include <string>
 
-#include <windows.h>
+#include "skin/gdi_plus.h"
 
 namespace {
-
-std::size_t ReturnNull() { return 0; }
-std::size_t ReturnMinusOne() { return static_cast<std::size_t>(-1); }
-std::size_t ReturnGdiPlusOutOfMemory() { return 3; }
-std::size_t ReturnOutOfMemory() { return static_cast<std::size_t>(E_OUTOFMEMORY); }
 
 /// Of the C library, the functions that can fail: they need memory.
 constexpr char kAllocators[] = "malloc calloc realloc _wcsdup";
@@ -25,18 +23,15 @@ constexpr char kCannotFail[] =
     "VirtualProtect VirtualQuery GdipFree GdiplusShutdown SysFreeString SysStringLen ShowWindow "
     "DestroyWindow CoTaskMemFree ";
 
-void* FailingFor(const std::string& library, const std::string& name) {
-    if (name == "GetMessageW") return reinterpret_cast<void*>(&ReturnMinusOne);
-    if (IsListed("GdipAlloc SysAllocString SysAllocStringLen StringFromGUID2", name)) {
-        return reinterpret_cast<void*>(&ReturnNull);
-    }
-    if (library == "gdiplus.dll") return reinterpret_cast<void*>(&ReturnGdiPlusOutOfMemory);
-    if (library == "ole32.dll" || library == "oleaut32.dll") return reinterpret_cast<void*>(&ReturnOutOfMemory);
-    return reinterpret_cast<void*>(&ReturnNull);
+/// What a function returns when it fails.
+std::int32_t FailureOf(const std::string& library, const std::string& name) {
+    if (name == "GetMessageW") return -1;
+    if (IsListed("GdipAlloc SysAllocString SysAllocStringLen StringFromGUID2", name)) return 0;
+    if (library == "gdiplus.dll") return Gdiplus::OutOfMemory;
+    return library == "ole32.dll" || library == "oleaut32.dll" ? E_OUTOFMEMORY : 0;
 }
 
-#ifdef __x86_64__
-/// Called by the stubs with the arguments put aside: where the call goes on.
+/// Called by the stubs: where the call goes on.
 extern "C" void* ImportTarget(Import* import) {
     const int call = import->calls++;
     if (import->next && !call) import->next->failingCall = import->next->calls;
@@ -47,6 +42,29 @@ extern "C" void* ImportTarget(Import* import) {
     return import->failing;
 }
 
+/// Machine code, written piece by piece.
+class Code {
+public:
+    explicit Code(unsigned char* at) : m_at(at) {}
+
+    Code& Add(std::initializer_list<unsigned char> bytes) {
+        m_at = std::copy(bytes.begin(), bytes.end(), m_at);
+        return *this;
+    }
+    template <typename Value>
+    Code& AddValue(Value value) {
+        std::memcpy(m_at, &value, sizeof(value));
+        m_at += sizeof(value);
+        return *this;
+    }
+
+private:
+    unsigned char* m_at;
+};
+
+extern "C" void ImportGate();
+
+#ifdef __x86_64__
 asm(R"(
 ImportGate:
     pushq %rcx
@@ -71,19 +89,40 @@ ImportGate:
     popq %rcx
     jmp *%rax
 )");
-extern "C" void ImportGate();
-
-/// mov r11, import; mov r10, ImportGate; jmp r10
 void WriteStub(unsigned char* stub, const Import* import) {
-    const unsigned char code[] = {
-        0x49, 0xBB, 0, 0, 0, 0, 0, 0, 0, 0, 0x49, 0xBA, 0, 0, 0, 0, 0, 0, 0, 0, 0x41, 0xFF, 0xE2};
-    const auto gate = &ImportGate;
-    std::memcpy(stub, code, sizeof(code));
-    std::memcpy(stub + 2, &import, sizeof(import));
-    std::memcpy(stub + 12, &gate, sizeof(gate));
+    // mov r11, import; mov r10, ImportGate; jmp r10
+    Code(stub).Add({0x49, 0xBB}).AddValue(import).Add({0x49, 0xBA}).AddValue(&ImportGate).Add({0x41, 0xFF, 0xE2});
+}
+
+void WriteFailure(unsigned char* code, const std::string&, std::int32_t value) {
+    Code(code).Add({0x48, 0xC7, 0xC0}).AddValue(value).Add({0xC3});  // mov rax, value; ret
 }
 #else
-void WriteStub(unsigned char*, const Import*) {}
+asm(R"(
+_ImportGate:
+    pushl %eax
+    call _ImportTarget
+    popl %ecx
+    jmp *%eax
+)");
+
+void WriteStub(unsigned char* stub, const Import* import) {
+    // mov eax, import; mov edx, ImportGate; jmp edx
+    Code(stub).Add({0xB8}).AddValue(import).Add({0xBA}).AddValue(&ImportGate).Add({0xFF, 0xE2});
+}
+
+/// Of the system's functions, which remove their arguments themselves; 0 for the C library's.
+std::uint16_t ArgumentBytes(const std::string& name) {
+    static const std::map<std::string, std::uint16_t> sizes = {
+#include "argument_bytes.h"
+    };
+    const auto found = sizes.find(name);
+    return found == sizes.end() ? std::uint16_t{0} : found->second;
+}
+
+void WriteFailure(unsigned char* code, const std::string& name, std::int32_t value) {
+    Code(code).Add({0xB8}).AddValue(value).Add({0xC2}).AddValue(ArgumentBytes(name));  // mov eax, value; ret bytes
+}
 #endif
 
 struct Place {
@@ -109,24 +148,27 @@ std::vector<Place> FindPlaces() {
             const std::string name =
                 reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData)->Name;
             if (IsListed(kCannotFail, name) || (library == "msvcrt.dll" && !IsListed(kAllocators, name))) continue;
-            places.push_back({{library, name, *slots, FailingFor(library, name)}, slots});
+            places.push_back({{library, name, *slots, nullptr}, slots});
         }
     }
     return places;
 }
 
 std::vector<Import> PutStubs() {
-    if (sizeof(void*) != 8) return {};
     constexpr std::size_t kStubSize = 32;
+    constexpr std::size_t kFailureSize = 16;
     const std::vector<Place> places = FindPlaces();
     std::vector<Import> imports;
     imports.reserve(places.size());
-    auto* stubs = static_cast<unsigned char*>(
-        ::VirtualAlloc(nullptr, places.size() * kStubSize, MEM_RESERVE | MEM_COMMIT, PAGE_EXECUTE_READWRITE));
+    auto* stubs = static_cast<unsigned char*>(::VirtualAlloc(
+        nullptr, places.size() * (kStubSize + kFailureSize), MEM_RESERVE | MEM_COMMIT, PAGE_EXECUTE_READWRITE));
     for (const Place& place : places) {
         imports.push_back(place.import);
-        unsigned char* stub = stubs + (imports.size() - 1) * kStubSize;
-        WriteStub(stub, &imports.back());
+        unsigned char* stub = stubs + (imports.size() - 1) * (kStubSize + kFailureSize);
+        Import& import = imports.back();
+        WriteStub(stub, &import);
+        import.failing = stub + kStubSize;
+        WriteFailure(stub + kStubSize, import.name, FailureOf(import.library, import.name));
         DWORD before = 0;
         ::VirtualProtect(place.slot, sizeof(void*), PAGE_READWRITE, &before);
         *place.slot = stub;

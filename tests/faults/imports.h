@@ -8,7 +8,7 @@ struct Import {
     std::string library;
     std::string name;
     void* function;            ///< The system's.
-    void* failing;             ///< Returns what the function returns when it fails.
+    void* failing;             ///< Code that returns what the function returns when it fails.
     int calls = 0;             ///< Since the last ArmImport.
     int failingCall = -1;      ///< From 0; -1 for none.
     bool failsOnward = false;  ///< All calls after that one fail as well.
@@ -17,8 +17,7 @@ struct Import {
 
 /// Whether a list of names with spaces between them has a name.
 bool IsListed(const std::string& list, const std::string& name);
-/// Those that can fail. Stubs take any arguments where the caller removes them, so in 64-bit programs only; elsewhere
-/// the list is empty.
+/// Those that can fail.
 std::vector<Import>& LibraryImports();
 /// Counts anew and lets one call fail; -1 for none.
 void ArmImport(Import& import, int failingCall, bool failsOnward = false);
