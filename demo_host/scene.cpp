@@ -1,5 +1,6 @@
 // The generated clip. It has what the effects work on: things that move in front of a still background, hard edges,
 // smooth gradients, saturated colours and skin.
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <numbers>
@@ -123,6 +124,16 @@ void PaintFlowers(Graphics& graphics) {
 
 // Time is an angle: the clip is one turn, and whatever moves is back where it was at its end.
 constexpr unsigned kTurnMs = 20000;
+// All come in at the start and leave at the end. So the first frame shows the still background alone, with which many effects
+// compare the others to find what moves.
+constexpr unsigned kEntranceMs = 1200;
+
+/// How far from its place everything is: 1 is out of the picture.
+float AwayAt(unsigned milliseconds) {
+    const unsigned fromEnd = (std::min)({milliseconds, kTurnMs - milliseconds, kEntranceMs});
+    const float missing = 1 - static_cast<float>(fromEnd) / kEntranceMs;
+    return missing * missing;
+}
 
 /// From edge to edge and in again on the other side, once in a turn.
 float Drift(float start, float turn) {
@@ -253,10 +264,14 @@ public:
         Graphics graphics(&bitmap);
         graphics.SetSmoothingMode(SmoothingModeAntiAlias);
         const float turn = 2 * kPi * static_cast<float>(milliseconds % kTurnMs) / kTurnMs;
+        const float away = AwayAt(milliseconds % kTurnMs);
+        graphics.TranslateTransform(0, -300 * away);  // From above.
         PaintCloud(graphics, Drift(60, turn), 66, 1.2F);
         PaintCloud(graphics, Drift(430, turn), 130, 0.8F);
         PaintBalloon(graphics, Drift(480, -turn), 110 + 14 * std::sin(5 * turn));
         PaintKite(graphics, turn);
+        graphics.ResetTransform();
+        graphics.TranslateTransform(kWidth * away, 0);  // From the right.
         PaintBall(graphics, turn);
         PaintPerson(graphics, turn);
         LayHaze(m_frame);
