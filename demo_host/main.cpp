@@ -51,6 +51,7 @@ constexpr struct {
      "mosaic.checked = 1\nmosaic.mosaicSize = 8\ndeblocking.algorithm = 1\ndeblocking.edgeThreshold = 255\n"},
     {EffectId::GammaCorrection, "gamma-correction.value = 260\n"},
     {EffectId::Mosaic, "mosaic.mosaicSize = 16\n"},
+    {EffectId::MotionScan, "motion-scan.lineIncrement = 6\n"},
     {EffectId::VideoRotation, "video-rotation.angle = 180\n"},
 };
 
