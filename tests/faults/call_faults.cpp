@@ -60,6 +60,7 @@ struct Fault {
     Reply (*happen)(RecordingHost& host);
 };
 
+Reply Throw(RecordingHost&) { throw std::runtime_error("setter"); }
 Reply DestroyDialog(RecordingHost& host) {
     ::DestroyWindow(DialogOf(host));
     return Reply::Normal;
@@ -91,7 +92,7 @@ const Fault kFaults[] = {
     {"an error", Expected::Any, false, [](RecordingHost&) { return Reply::Error; }},
     {"null", Expected::Any, false, [](RecordingHost&) { return Reply::Null; }},
     {"untouched", Expected::Any, false, [](RecordingHost&) { return Reply::Untouched; }},
-    {"an exception", Expected::Any, true, [](RecordingHost&) -> Reply { throw std::runtime_error("setter"); }},
+    {"an exception", Expected::Any, true, Throw},
     {"destroys the dialog", Expected::Destroyed, false, DestroyDialog},
     {"destroys the owner", Expected::Destroyed, false, DestroyOwner},
     {"quits", Expected::Destroyed, false, Quit},
@@ -167,6 +168,7 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
         const std::string& call = calls[static_cast<std::size_t>(at)];
         for (const Fault& fault : kFaults) {
             if ((fault.onlySetters && !IsSetter(call)) || turn++ % stride) continue;
+            if (!kExceptionsCrossModules && fault.happen == &Throw) continue;
             Try("call " + std::to_string(at) + " (" + call + "): " + fault.name);
             visit.onCall = [&](RecordingHost& host, int number, const std::string&) {
                 return number == at ? fault.happen(host) : Reply::Normal;

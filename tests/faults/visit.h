@@ -29,6 +29,13 @@ private:
     std::size_t m_count;
 };
 
+/// GCC's 32-bit unwinder knows only the module that throws: what leaves that ends the process before anyone is asked.
+#ifdef __i386__
+constexpr bool kExceptionsCrossModules = false;
+#else
+constexpr bool kExceptionsCrossModules = true;
+#endif
+
 /// What the user does, one action per tick; the dialog is closed after the last.
 using Action = std::function<void(HWND dialog)>;
 

@@ -25,7 +25,8 @@ public:
     HRESULT STDMETHODCALLTYPE GetItem(LONG index, IUnknown** item) override {
         const Reply reply = Record("GetItem(" + std::to_string(index) + ")");
         if (reply != Reply::Normal) return Spoil<IUnknown*>(reply, item, nullptr);
-        *item = items.at(static_cast<std::size_t>(index));
+        if (!Has(index)) return E_INVALIDARG;
+        *item = items[static_cast<std::size_t>(index)];
         (*item)->AddRef();
         return S_OK;
     }
@@ -38,7 +39,8 @@ public:
     }
     HRESULT STDMETHODCALLTYPE RemoveAt(LONG index) override {
         if (Record("RemoveAt(" + std::to_string(index) + ")") != Reply::Normal) return E_FAIL;
-        items.at(static_cast<std::size_t>(index))->Release();
+        if (!Has(index)) return E_INVALIDARG;  // It was removed meanwhile, by what happened at this call.
+        items[static_cast<std::size_t>(index)]->Release();
         items.erase(items.begin() + index);
         return S_OK;
     }
@@ -52,6 +54,7 @@ public:
 
 private:
     Reply Record(const std::string& call) { return m_host.m_trace.Add(m_name + "." + call); }
+    bool Has(LONG index) const { return index >= 0 && static_cast<std::size_t>(index) < items.size(); }
 
     RecordingHost& m_host;
     std::string m_name;
