@@ -35,8 +35,7 @@ sed -n '/-DCMAKE_SYSTEM_NAME/,/^$/p' "$unpacked/docs/integration.md" |
 (cd "$walk" && CMAKE_GENERATOR=Ninja bash -e commands >commands.log)
 diff - <(
     export WINEPATH=$consumer/x64/build/bin
-    for host in "$walk/build/my_host.exe" "$unpacked/bin/minimal_host.exe" "$unpacked/bin/minimal_host_c.exe" \
-        "$unpacked/bin/demo_host.exe gamma-correction"; do
+    for host in "$walk/build/my_host.exe" "$unpacked/bin/minimal_host.exe" "$unpacked/bin/minimal_host_c.exe"; do
         timeout 120 scripts/run-wine press_ok.exe "$host" | tr -d '\r'
     done
 ) <<'END' || {
@@ -45,16 +44,11 @@ Gamma Correction Settings: the picture moves
 EffectSettings
 Gamma Correction Settings
 gamma 100, on
-EffectSettings demo: the picture moves
-Auto Contrast Setting: the picture moves
-Gamma Correction Settings: the picture moves
-before: enabled=1 value=100
-result: 1 (OK)
-after: enabled=1 value=100
 END
     echo "A host of the archive does not show what it should." >&2
     exit 1
 }
+timeout 120 scripts/run-wine "$unpacked/bin/demo_host.exe" gamma-correction --screenshot "Z:${consumer//\//\\}\\demo.png"
 say "Running the 64-bit host and the checker"
 for program in call_from_c call_from_c_by_lib call_by_pkgconf open_all; do
     timeout 120 scripts/run-wine "$consumer/x64/build/bin/$program.exe" || {
