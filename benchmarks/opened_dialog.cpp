@@ -6,7 +6,6 @@
 namespace {
 
 constexpr UINT kCall = WM_APP;
-constexpr ULONG_PTR kDialogClassAtom = 32770;
 
 std::deque<std::function<void()>> g_calls;
 std::function<void(HWND)> g_seen;
@@ -29,13 +28,15 @@ HWND CallsWindow() {
     return window;
 }
 
-LRESULT CALLBACK WatchShowing(int code, WPARAM wParam, LPARAM lParam) {
-    const auto* done = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && done->message == WM_SHOWWINDOW && done->wParam && g_seen &&
-        ::GetClassLongPtrW(done->hwnd, GCW_ATOM) == kDialogClassAtom) {
-        PostCall([dialog = done->hwnd, seen = std::exchange(g_seen, nullptr)] { seen(dialog); });
+WNDPROC g_dialogProc = nullptr;
+
+LRESULT CALLBACK WatchShowing(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC proc = g_dialogProc;
+    if (message == WM_SHOWWINDOW && wParam) {
+        ::SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(proc));
+        PostCall([dialog, seen = std::exchange(g_seen, nullptr)] { seen(dialog); });
     }
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    return ::CallWindowProcW(proc, dialog, message, wParam, lParam);
 }
 
 }  // namespace
@@ -48,8 +49,12 @@ void PostCall(std::function<void()> call) {
 void WithDialog(const std::function<void()>& open, const std::function<void(HWND)>& seen) {
     g_seen = seen;
     CallsWindow();
-    const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROCRET, WatchShowing, nullptr, ::GetCurrentThreadId());
     open();
-    ::UnhookWindowsHookEx(hook);
     g_seen = nullptr;
+}
+
+void DialogOpens(HWND dialog) {
+    if (!g_seen || !dialog) return;
+    g_dialogProc =
+        reinterpret_cast<WNDPROC>(::SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WatchShowing)));
 }

@@ -9,5 +9,8 @@
 /// thread shows. What closes the dialog is the function's business.
 void WithDialog(const std::function<void()>& open, const std::function<void(HWND dialog)>& seen);
 
+/// What opens a dialog for WithDialog tells it so, before the dialog shows. A hook would tell as well, but slow each message.
+void DialogOpens(HWND dialog);
+
 /// Runs a function from the thread's message loop, after all that was posted before.
 void PostCall(std::function<void()> call);

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "benchmarks/opened_dialog.h"
 #include "benchmarks/samples.h"
 #include "effect_settings/effect_filters.h"
 #include "effect_settings/media_host.h"
@@ -59,7 +60,10 @@ struct StubHost : Immortal<IMediaHost> {
     HRESULT STDMETHODCALLTYPE RefreshPreview() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE StopPreview() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetPreviewOption(LONG) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE SetPreviewWindow(LONG) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetPreviewWindow(LONG panel) override {
+        DialogOpens(::GetParent(static_cast<HWND>(LongToHandle(panel))));
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE EnableVideoPreview(LONG) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetPreviewRange(LONG, LONG) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetPreviewMode(LONG) override { return S_OK; }

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include "benchmarks/opened_dialog.h"
+
 namespace {
 
 constexpr int kCornerDiameter = 5;  // As the kit's dialogs have it.
@@ -71,6 +73,7 @@ INT_PTR CALLBACK TwinProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lPara
             ::SetWindowRgn(
                 dialog, ::CreateRoundRectRgn(0, 0, twin.size.cx, twin.size.cy, kCornerDiameter, kCornerDiameter), TRUE);
             ::SetWindowTextW(dialog, L"Settings");
+            DialogOpens(dialog);
             return TRUE;
         }
         case WM_HSCROLL: {
