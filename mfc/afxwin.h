@@ -97,8 +97,6 @@ public:
     BOOL SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) {
         return ::SetWindowPos(m_hWnd, insertAfter ? insertAfter->m_hWnd : nullptr, x, y, width, height, flags);
     }
-    /// Of a top-level window.
-    void CenterWindow(CWnd* alternateOwner = nullptr);
     BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
     BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
@@ -164,9 +162,12 @@ protected:
 
 private:
     friend class afx::CreationHook;
+    friend LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon);
 
     explicit CWnd(HWND place) : m_hWnd(place) {}
     static LRESULT CALLBACK ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Whether windows of a class come with this layer's procedure.
+    static bool IsOwnClass(LPCWSTR name);
     bool Attach(HWND window);
     void Detach();
     const AFX_MSGMAP_ENTRY* FindHandler(UINT message, UINT code, UINT id) const;
@@ -180,16 +181,20 @@ namespace afx {
 /// While one of these lives, the next window that its thread creates becomes the object's, before its first message.
 class CreationHook {
 public:
-    explicit CreationHook(CWnd& window);
+    /// @param hooks  Whether the window's class has a procedure of its own, so that a hook of the system has to tell.
+    explicit CreationHook(CWnd& window, bool hooks = true);
     ~CreationHook();
     CreationHook(const CreationHook&) = delete;
     CreationHook& operator=(const CreationHook&) = delete;
 
     /// Takes what the creating function returned. When that failed, nothing of the window stays with the object.
     bool Complete(HWND created);
+    /// Gives a new window to the object that waits for one on this thread; null when there is none.
+    static CWnd* Adopt(HWND window);
 
 private:
     static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
+    void Unhook();
 
     CWnd* m_waiting;  // Null once it has its window.
     HWND m_attached = nullptr;

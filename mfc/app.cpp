@@ -57,14 +57,18 @@ LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON
     if (!isNew) return known->c_str();
     WNDCLASSW windowClass{};
     windowClass.style = style;
-    windowClass.lpfnWndProc = ::DefWindowProcW;
+    windowClass.lpfnWndProc = &CWnd::ObjectWindowProc;
     windowClass.hInstance = AfxGetInstanceHandle();
     windowClass.hIcon = icon;
     windowClass.hCursor = cursor;
     windowClass.hbrBackground = background;
     windowClass.lpszClassName = name.c_str();
-    // One that is there already was left by a module that lay at the same address.
-    if (::RegisterClassW(&windowClass) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS) return known->c_str();
+    if (::RegisterClassW(&windowClass)) return known->c_str();
+    // One that is there already was left by a module that lay at the same address; its procedure is gone.
+    if (::GetLastError() == ERROR_CLASS_ALREADY_EXISTS && ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle()) &&
+        ::RegisterClassW(&windowClass)) {
+        return known->c_str();
+    }
     classes.names.erase(known);
     return nullptr;
 }

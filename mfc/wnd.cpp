@@ -38,6 +38,13 @@ WindowMap& Windows() {
 
 const DWORD g_loadingThread = ::GetCurrentThreadId();
 
+/// Asked for once: the system looks for it anew at every call.
+HCURSOR Arrow() {
+    static HCURSOR arrow = nullptr;
+    if (!arrow) arrow = ::LoadCursorW(nullptr, IDC_ARROW);
+    return arrow;
+}
+
 bool IsImeWindow(HWND window) { return (::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0; }
 
 }  // namespace
@@ -61,13 +68,13 @@ CClientDC::CClientDC(CWnd* window) : m_hWnd(window ? window->GetSafeHwnd() : nul
 
 namespace afx {
 
-CreationHook::CreationHook(CWnd& window)
+CreationHook::CreationHook(CWnd& window, bool hooks)
     : m_waiting(&window),
       m_outer(std::exchange(CurrentThread().creationHook, this)),
-      m_hook(::SetWindowsHookExW(WH_CBT, &HookProc, nullptr, ::GetCurrentThreadId())) {}
+      m_hook(hooks ? ::SetWindowsHookExW(WH_CBT, &HookProc, nullptr, ::GetCurrentThreadId()) : nullptr) {}
 
 CreationHook::~CreationHook() {
-    if (m_hook) ::UnhookWindowsHookEx(m_hook);
+    Unhook();
     CurrentThread().creationHook = m_outer;
 }
 
@@ -77,13 +84,23 @@ LRESULT CALLBACK CreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam) 
     const auto window = reinterpret_cast<HWND>(wParam);
     // The system may create an input method's window first.
     if (code != HCBT_CREATEWND || refused || !hook || !hook->m_waiting || IsImeWindow(window)) return refused;
+    hook->Unhook();                // The rest of the creation would be slower for it.
+    return Adopt(window) ? 0 : 1;  // No window rather than one without its object.
+}
+
+void CreationHook::Unhook() {
+    if (m_hook) ::UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
+}
+
+CWnd* CreationHook::Adopt(HWND window) {
+    CreationHook* hook = CurrentThread().creationHook;
+    CWnd* object = hook ? std::exchange(hook->m_waiting, nullptr) : nullptr;
     try {
-        // No window rather than one without its object.
-        if (!std::exchange(hook->m_waiting, nullptr)->Attach(window)) return 1;
+        if (!object || !object->Attach(window)) return nullptr;
         hook->m_attached = window;
-        return 0;
+        return object;
     } catch (...) {
-        return 1;
+        return nullptr;
     }
 }
 
@@ -117,10 +134,19 @@ CWnd::~CWnd() {
 
 CWnd* CWnd::FromHandlePermanent(HWND window) { return Windows().Find(window); }
 
+bool CWnd::IsOwnClass(LPCWSTR name) {
+    WNDCLASSEXW known{};
+    known.cbSize = sizeof(known);
+    return ::GetClassInfoExW(AfxGetInstanceHandle(), name, &known) && known.lpfnWndProc == &ObjectWindowProc;
+}
+
 bool CWnd::Attach(HWND window) {
     Windows().Insert(window, this);
-    m_superProc = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
+    const auto current = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
+    m_superProc = current == &ObjectWindowProc
+                      ? ::DefWindowProcW
+                      : reinterpret_cast<WNDPROC>(
+                            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
     if (m_superProc) {
         m_hWnd = window;
     } else {
@@ -138,8 +164,8 @@ void CWnd::Detach() {
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCTW& create) {
     if (!create.lpszClass) {
-        create.lpszClass = AfxRegisterWndClass(
-            CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
+        create.lpszClass =
+            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, Arrow(), ::GetSysColorBrush(COLOR_WINDOW));
     }
     return create.lpszClass != nullptr;
 }
@@ -172,7 +198,7 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD style
     create.dwExStyle = exStyle;
     if (!PreCreateWindow(create)) return FALSE;
 
-    afx::CreationHook hook(*this);
+    afx::CreationHook hook(*this, !IsOwnClass(create.lpszClass));
     return hook.Complete(::CreateWindowExW(
         create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style), create.x, create.y,
         create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams));
@@ -182,6 +208,7 @@ BOOL CWnd::DestroyWindow() { return m_hWnd ? ::DestroyWindow(m_hWnd) : FALSE; }
 
 LRESULT CALLBACK CWnd::ObjectWindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* object = FromHandlePermanent(window);
+    if (!object) object = afx::CreationHook::Adopt(window);
     if (!object) return ::DefWindowProcW(window, message, wParam, lParam);
     const MSG current{window, message, wParam, lParam, 0, {0, 0}};
     const MSG* outer = std::exchange(afx::CurrentThread().currentMessage, &current);
@@ -277,22 +304,4 @@ BOOL CWnd::ChangeStyle(int which, DWORD remove, DWORD add, UINT flags) {
         ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
     }
     return TRUE;
-}
-
-void CWnd::CenterWindow(CWnd* alternateOwner) {
-    const HWND owner = alternateOwner ? alternateOwner->GetSafeHwnd() : ::GetWindow(m_hWnd, GW_OWNER);
-    const bool overOwner = owner && ::IsWindowVisible(owner) && !::IsIconic(owner);
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    ::GetMonitorInfoW(::MonitorFromWindow(owner ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const CRect screen = monitor.rcWork;
-    CRect middleOf = screen;
-    if (overOwner) ::GetWindowRect(owner, middleOf);
-    CRect own;
-    GetWindowRect(own);
-    // Centred, but not over the screen's edges; of a window that is too large the top left part shows.
-    const int x = (std::min)(middleOf.CenterPoint().x - own.Width() / 2, screen.right - own.Width());
-    const int y = (std::min)(middleOf.CenterPoint().y - own.Height() / 2, screen.bottom - own.Height());
-    ::SetWindowPos(m_hWnd, nullptr, (std::max)(x, static_cast<int>(screen.left)),
-                   (std::max)(y, static_cast<int>(screen.top)), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
