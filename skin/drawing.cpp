@@ -34,19 +34,23 @@ CBufferedPaint::CBufferedPaint(HDC target, const CRect& rect)
 
 CBufferedPaint::~CBufferedPaint() {
     if (!m_screen) return;
-    ::BitBlt(m_target, m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), m_screen->Dc(), 0, 0, SRCCOPY);
+    CopyPicture(m_target, m_rect, m_screen->Dc(), CPoint(0, 0));
     KeepOffScreen(std::move(m_screen));
 }
 
 HDC CBufferedPaint::Dc() const { return m_screen ? m_screen->Dc() : nullptr; }
 
-void CBufferedPaint::CopyFrom(HBITMAP bitmap, CPoint from) const {
+void CBufferedPaint::CopyFrom(HDC picture, CPoint from) const {
     if (!m_screen) return;
-    if (bitmap) {
-        CopyBitmap(m_screen->Dc(), CRect(CPoint(0, 0), Size()), bitmap, from);
+    if (picture) {
+        CopyPicture(m_screen->Dc(), CRect(CPoint(0, 0), Size()), picture, from);
     } else {
         ::PatBlt(m_screen->Dc(), 0, 0, m_rect.Width(), m_rect.Height(), BLACKNESS);
     }
+}
+
+void CopyPicture(HDC target, const CRect& rect, HDC picture, CPoint from) {
+    ::BitBlt(target, rect.left, rect.top, rect.Width(), rect.Height(), picture, from.x, from.y, SRCCOPY);
 }
 
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color) {

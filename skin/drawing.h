@@ -88,8 +88,8 @@ public:
 
     HDC Dc() const;
     CSize Size() const { return m_rect.Size(); }
-    /// Copies out of a bitmap from a point on, as much as there is room; a null bitmap gives black.
-    void CopyFrom(HBITMAP bitmap, CPoint from) const;
+    /// Copies out of a picture from a point on, as much as there is room; null gives black.
+    void CopyFrom(HDC picture, CPoint from) const;
 
 private:
     HDC m_target;
@@ -99,8 +99,8 @@ private:
 
 /// How much could not be drawn so far, on any thread, since the system had no memory: nobody keeps what was drawn meanwhile.
 unsigned FailedDrawings();
-/// Fills a rectangle out of a bitmap, from a point of it on.
-void CopyBitmap(HDC target, const CRect& rect, HBITMAP bitmap, CPoint from);
+/// Fills a rectangle out of a picture, from a point of it on.
+void CopyPicture(HDC target, const CRect& rect, HDC picture, CPoint from);
 /// In exactly this colour; the other helpers draw in InkColor and GroundColor of theirs.
 void FillRectangle(HDC dc, const CRect& rect, COLORREF color);
 /// Fills with a gradient from top to bottom; plain in the first colour where the system has no GradientFill.

@@ -49,7 +49,7 @@ struct SharedDrawing {
     std::map<Gdiplus::ARGB, Gdiplus::Pen> pens;
     std::map<TextLayout, Gdiplus::StringFormat> formats;
     std::map<std::wstring, Gdiplus::Bitmap> pictures;
-    std::map<std::wstring, CBitmapHandle> drawn;
+    std::map<std::wstring, std::unique_ptr<COffScreen>> drawn;
 };
 
 // Dialogs may be open on several threads.
@@ -142,10 +142,10 @@ CString SubstituteFor(LPCWSTR face) {
     return AnyInstalledFamily();
 }
 
-void CopyAllButCorners(HDC dc, CSize size, HBITMAP picture) {
+void CopyAllButCorners(HDC dc, CSize size, HDC picture) {
     for (const CRect& part : {CRect(1, 0, size.cx - 1, size.cy), CRect(0, 1, 1, size.cy - 1),
                               CRect(size.cx - 1, 1, size.cx, size.cy - 1)}) {
-        CopyBitmap(dc, part, picture, part.TopLeft());
+        CopyPicture(dc, part, picture, part.TopLeft());
     }
 }
 
@@ -153,7 +153,7 @@ bool CopyKept(HDC dc, CSize size, const std::wstring& key) {
     const CSharedLock lock;
     const auto found = Shared().drawn.find(key);
     if (found == Shared().drawn.end()) return false;
-    CopyAllButCorners(dc, size, found->second.Get());
+    CopyAllButCorners(dc, size, found->second->Dc());
     return true;
 }
 
@@ -247,12 +247,11 @@ Gdiplus::Bitmap* SharedPicture(LPCWSTR file) {
 
 void DrawKept(HDC dc, CSize size, const std::wstring& key, const std::function<void(HDC)>& paint) {
     if (CopyKept(dc, size, key)) return;
-    const CBorrowedDC display(nullptr);
-    CBitmapHandle picture{::CreateCompatibleBitmap(display, size.cx, size.cy)};
-    if (!picture) return;
+    auto picture = std::make_unique<COffScreen>();
+    if (!picture->Fit(size)) return;
     const unsigned failed = FailedDrawings();
-    paint(CMemoryDC(display, picture.Get()));
-    CopyAllButCorners(dc, size, picture.Get());
+    paint(picture->Dc());
+    CopyAllButCorners(dc, size, picture->Dc());
     if (FailedDrawings() != failed) return;
     const CSharedLock lock;
     Shared().drawn.try_emplace(key, std::move(picture));

@@ -7,7 +7,6 @@ namespace {
 
 SRWLOCK g_lock = SRWLOCK_INIT;
 std::unique_ptr<COffScreen> g_kept;  // Null while it is in use.
-HDC g_source = nullptr;              // What bitmaps are copied from; none is selected between the calls.
 
 class CLock {
 public:
@@ -19,15 +18,12 @@ public:
 
 }  // namespace
 
-COffScreen::COffScreen() : m_dc(::CreateCompatibleDC(nullptr)), m_noBitmap(::GetCurrentObject(m_dc, OBJ_BITMAP)) {}
-
-COffScreen::~COffScreen() {
-    ::SelectObject(m_dc, m_noBitmap);
-    ::DeleteDC(m_dc);
-}
-
 bool COffScreen::Fit(CSize size) {
-    if (size.cx <= m_size.cx && size.cy <= m_size.cy) return m_dc != nullptr;
+    if (m_dc && size.cx <= m_size.cx && size.cy <= m_size.cy) return true;
+    if (!m_dc) {
+        m_dc = ::CreateCompatibleDC(nullptr);
+        m_noBitmap = ::GetCurrentObject(m_dc, OBJ_BITMAP);
+    }
     const CSize grown((std::max)(size.cx, m_size.cx), (std::max)(size.cy, m_size.cy));
     const CBorrowedDC display(nullptr);
     CBitmapHandle bitmap{::CreateCompatibleBitmap(display, grown.cx, grown.cy)};
@@ -35,6 +31,14 @@ bool COffScreen::Fit(CSize size) {
     m_bitmap = std::move(bitmap);
     m_size = grown;
     return true;
+}
+
+void COffScreen::Release() {
+    if (!m_dc) return;
+    ::SelectObject(m_dc, m_noBitmap);
+    ::DeleteDC(std::exchange(m_dc, nullptr));
+    m_bitmap.Reset();
+    m_size = CSize(0, 0);
 }
 
 std::unique_ptr<COffScreen> TakeOffScreen(CSize size) {
@@ -55,13 +59,4 @@ void KeepOffScreen(std::unique_ptr<COffScreen> screen) {
 void ReleaseOffScreen() {
     const CLock lock;
     g_kept.reset();
-    ::DeleteDC(std::exchange(g_source, nullptr));
-}
-
-void CopyBitmap(HDC target, const CRect& rect, HBITMAP bitmap, CPoint from) {
-    const CLock lock;
-    if (!g_source) g_source = ::CreateCompatibleDC(nullptr);
-    const HGDIOBJ none = ::SelectObject(g_source, bitmap);
-    ::BitBlt(target, rect.left, rect.top, rect.Width(), rect.Height(), g_source, from.x, from.y, SRCCOPY);
-    ::SelectObject(g_source, none);  // A bitmap can be in one device context only.
 }

@@ -1,4 +1,4 @@
-// The surface that the kit draws on before it copies to the screen; one is kept between paints.
+// Surfaces in memory that the kit draws on and copies from; the one for paints is kept between them.
 #pragma once
 
 #include <memory>
@@ -7,21 +7,23 @@
 
 #include "skin/drawing.h"
 
-/// A bitmap to draw on.
+/// A bitmap to draw on. It stays in a device context of its own: selecting one costs more than most copies.
 class COffScreen {
 public:
-    COffScreen();
-    ~COffScreen();
+    COffScreen() = default;
+    ~COffScreen() { Release(); }
     COffScreen(const COffScreen&) = delete;
     COffScreen& operator=(const COffScreen&) = delete;
 
+    /// Null before it has a size.
     HDC Dc() const { return m_dc; }
     /// Grows to a size; false when there is no memory for it.
     bool Fit(CSize size);
+    void Release();
 
 private:
-    HDC m_dc;
-    HGDIOBJ m_noBitmap;  // What was selected first.
+    HDC m_dc = nullptr;
+    HGDIOBJ m_noBitmap = nullptr;  // What was selected first.
     CBitmapHandle m_bitmap;
     CSize m_size{0, 0};
 };

@@ -31,8 +31,9 @@ protected:
 
 class CSkinControl {
 public:
-    /// Hands over the dialog's painted background, which shows behind the control. Borrowed until the next call.
-    virtual void SetBackground(HBITMAP background) = 0;
+    /// Hands over the dialog's painted background, in a memory device context, which shows behind the control. Borrowed
+    /// until the next call.
+    virtual void SetBackground(HDC background) = 0;
     /// The control's rectangle in the dialog's client coordinates.
     virtual CRect Bounds() const = 0;
     /// Draws a windowless control onto the dialog. Child windows are painted by the system.

@@ -54,6 +54,7 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
     ON_WM_CAPTURECHANGED()
     ON_WM_SETFOCUS()
     ON_MESSAGE(kRepairFocus, OnRepairFocus)
+    ON_MESSAGE(WM_SETTEXT, OnSetText)
     ON_MESSAGE(WM_SETTINGCHANGE, OnSettingChange)
     ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
@@ -106,7 +107,7 @@ void CSkinDialog::OnDestroy() {
     CDialog::OnDestroy();
     m_accessibility.Disconnect();
     SetSkinBackground(nullptr);
-    m_background.Reset();
+    m_background.Release();
     // Somebody else destroyed the window: the framework would wait for an answer for ever.
     if (std::exchange(m_answered, true)) return;
     EndModalLoop(-1);
@@ -130,10 +131,15 @@ void CSkinDialog::EndDialog(int result) {
 
 void CSkinDialog::PlaceWindow(int width, int height, LPCWSTR title) {
     SetWindowText(title);
-    MoveWindow(0, 0, width, height);
-    CenterWindow();
     const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
-    MoveBy(WayInto(WorkAreaOf(owner ? owner : m_hWnd), WindowRect()));
+    const CRect area = WorkAreaOf(owner ? owner : m_hWnd);
+    CRect middleOf = area;
+    if (owner && ::IsWindowVisible(owner) && !::IsIconic(owner)) ::GetWindowRect(owner, middleOf);
+    CRect place(
+        CPoint(middleOf.CenterPoint().x - width / 2, middleOf.CenterPoint().y - height / 2), CSize(width, height));
+    place.OffsetRect(WayInto(area, place));
+    // In one step: the system asks a lot at each.
+    SetWindowPos(nullptr, place.left, place.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 CRect CSkinDialog::WindowRect() const {
@@ -168,10 +174,13 @@ void CSkinDialog::OnSize(UINT type, int cx, int cy) {
 void CSkinDialog::CreateBackground() {
     const int width = ClientRect().Width();
     const int height = ClientRect().Height();
-    const CBorrowedDC display(nullptr);
-    CBitmapHandle background{::CreateCompatibleBitmap(display, width, height)};
+    if (!m_background.Fit(CSize(width, height))) {
+        SetSkinBackground(nullptr);
+        m_background.Release();
+        return;
+    }
     {
-        const CMemoryDC dc(display, background.Get());
+        const HDC dc = m_background.Dc();
         const COLORREF bandTop = Lighten(kBackgroundColor, 15);
         FillRectangle(dc, CRect(0, 0, width, height), GroundColor(kBackgroundColor));
         FillVerticalGradient(dc, CRect(1, 1, width - 1, 16), bandTop, Darken(bandTop, 5));
@@ -188,11 +197,10 @@ void CSkinDialog::CreateBackground() {
         DrawLines(dc, separator, 2, kAccentColor);
         DrawTitle(dc);
     }
-    m_background = std::move(background);
-    SetSkinBackground(m_background.Get());
+    SetSkinBackground(m_background.Dc());
 }
 
-void CSkinDialog::SetSkinBackground(HBITMAP background) {
+void CSkinDialog::SetSkinBackground(HDC background) {
     for (const Entry& entry : m_controls) entry.control->SetBackground(background);
 }
 
@@ -206,18 +214,23 @@ void CSkinDialog::LayoutControls() {
     place(m_okButton, client.right - 75, client.bottom - 29, 65, 19);
 }
 
+LRESULT CSkinDialog::OnSetText(WPARAM, LPARAM) {
+    m_titleChanged = true;
+    return Default();
+}
+
 BOOL CSkinDialog::OnEraseBkgnd(CDC* dc) {
-    if (!m_background) return CDialog::OnEraseBkgnd(dc);
-    CString title;
-    GetWindowText(title);
-    if (title != m_drawnTitle) CreateBackground();
-    CopyBitmap(dc->GetSafeHdc(), ClientRect(), m_background.Get(), CPoint(0, 0));
+    if (!m_background.Dc()) return CDialog::OnEraseBkgnd(dc);
+    if (m_titleChanged) CreateBackground();
+    CopyPicture(dc->GetSafeHdc(), ClientRect(), m_background.Dc(), CPoint(0, 0));
     return TRUE;
 }
 
 void CSkinDialog::DrawTitle(HDC dc) {
-    GetWindowText(m_drawnTitle);
-    if (m_drawnTitle.IsEmpty()) return;
+    CString title;
+    GetWindowText(title);
+    m_titleChanged = false;
+    if (title.IsEmpty()) return;
     CTextGraphics graphics(dc);
     // The close button stands on the bare band, however long the title is.
     const CRect button = m_closeButton.Bounds();
@@ -225,7 +238,7 @@ void CSkinDialog::DrawTitle(HDC dc) {
         graphics.ExcludeClip(Gdiplus::Rect(button.left, button.top, button.Width(), button.Height()));
     }
     const COLORREF color = InkColor(Darken(kTextColor, 10));
-    DrawTitleText(graphics, m_drawnTitle, CRect(10, 0, 10 + ClientRect().Width(), kTitleHeight),
+    DrawTitleText(graphics, title, CRect(10, 0, 10 + ClientRect().Width(), kTitleHeight),
                   Gdiplus::Color(IsHighContrast() ? BYTE{255} : BYTE{200}, static_cast<BYTE>(RedOf(color)),
                                  static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color))));
 }

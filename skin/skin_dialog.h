@@ -10,6 +10,7 @@
 #include "skin/drawing.h"
 #include "skin/focus_ring.h"
 #include "skin/guarded.h"
+#include "skin/off_screen.h"
 #include "skin/skin_button.h"
 #include "skin/skin_control.h"
 #include "skin/skin_static.h"
@@ -51,7 +52,7 @@ protected:
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
     /// Places the controls; runs after every change of the size.
     virtual void LayoutControls();
-    virtual void SetSkinBackground(HBITMAP background);
+    virtual void SetSkinBackground(HDC background);
     /// Draws the controls that touch an area.
     virtual void PaintControls(const CRect& area);
     virtual void RelayMouseEvent(UINT message, CPoint point);
@@ -87,6 +88,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* previous);
     afx_msg void OnCaptureChanged(CWnd* other);
     afx_msg LRESULT OnRepairFocus(WPARAM, LPARAM);
+    afx_msg LRESULT OnSetText(WPARAM, LPARAM);
     afx_msg LRESULT OnSettingChange(WPARAM, LPARAM);
     afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
@@ -113,8 +115,8 @@ private:
 
     COwner m_owner;
     bool m_answered = false;
-    CBitmapHandle m_background;  // With the title.
-    CString m_drawnTitle;
+    COffScreen m_background;  // With the title.
+    bool m_titleChanged = false;
     std::vector<Entry> m_controls;
     CFocusRing m_focus{*this};
     CAccessibility m_accessibility{*this};

@@ -23,7 +23,7 @@ public:
     /// Borrows a font for as long as the item lives: one of the shared ones, usually.
     virtual void SetFont(HFONT font);
 
-    void SetBackground(HBITMAP background) override { m_background = background; }
+    void SetBackground(HDC background) override { m_background = background; }
     CRect Bounds() const override { return m_rect; }
     /// Nothing happens for an item that is disabled or invisible or whose parent is gone.
     void HandleMouse(UINT message, CPoint point) override;
@@ -62,7 +62,7 @@ protected:
     void Click();
     HWND Parent() const { return m_parent; }
     HFONT Font() const { return m_font ? m_font : ItemFont(); }
-    HBITMAP Background() const { return m_background; }
+    HDC Background() const { return m_background; }
     bool IsHovered() const { return m_state == State::Hover && m_enabled; }
     bool IsPressed() const { return m_state == State::Pressed && m_enabled; }
 
@@ -83,7 +83,7 @@ private:
     bool m_tabStop = true;
     CString m_text;
     HFONT m_font = nullptr;
-    HBITMAP m_background = nullptr;
+    HDC m_background = nullptr;
     HCURSOR m_cursor = nullptr;
     CString m_tipText;
     std::unique_ptr<CHintTip> m_tip;  // Made when it is first shown.

@@ -13,7 +13,7 @@ class CMessageText : public CGuarded<CRichEditCtrl>, public CSkinControl {
 public:
     /// Posts a press and a release at the text's start, so that it begins without a selection.
     void ClickAtStart();
-    void SetBackground(HBITMAP) override {}
+    void SetBackground(HDC) override {}
     CRect Bounds() const override;
     bool TakesFocus() const override { return true; }
     HWND FocusWindow() const override { return m_hWnd; }

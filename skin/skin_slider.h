@@ -37,7 +37,7 @@ public:
     /// proposed, also when the position stayed where it was.
     virtual void ShowPosition() {}
 
-    void SetBackground(HBITMAP background) override { m_background = background; }
+    void SetBackground(HDC background) override { m_background = background; }
     CRect Bounds() const override;
 
     // The window itself handles no keys: the dialog, which has them, calls these.
@@ -75,7 +75,7 @@ private:
 
     State m_state = State::Idle;
     int m_dragOffset = 0;  // From the pointer to the thumb's right edge.
-    HBITMAP m_background = nullptr;
+    HDC m_background = nullptr;
     double m_position = 0.0;
     double m_maximum = 100.0;
     double m_minimum = 0.0;
