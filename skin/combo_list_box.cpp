@@ -47,8 +47,7 @@ void CComboDropList::DrawItem(LPDRAWITEMSTRUCT item) {
     }
     CString text;
     GetText(static_cast<int>(item->itemID), text);
-    CTextGraphics graphics(buffer.Dc());
-    DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), CRect(kTextLeft, 0, row.Width(), row.Height()),
+    DrawTextIn(buffer.Dc(), text, TextFont(L"Arial", kTextEm), CRect(kTextLeft, 0, row.Width(), row.Height()),
                TextLayout::LeftMiddle, Ink(selected ? kTextColor : kBackgroundColor));
 }
 
@@ -258,15 +257,13 @@ void CVelComboListBox::OnPress(bool inside) {
 void CVelComboListBox::Paint(HDC dc, CSize size) {
     FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), GroundColor(kTextColor));
     const COLORREF color = IsPressed() || IsHovered() ? kHoverOutlineColor : kOutlineColor;
-    CTextGraphics graphics(dc);
-    DrawCutCornerOutline(graphics, size, color);
+    DrawCutCornerOutline(dc, size, color);
 
     const int width = size.cx;
     const int lower = IsPressed() ? 3 : 0;
     const Gdiplus::Point triangle[] = {{width - 13, 10 + lower}, {width - 6, 10 + lower}, {width - 10, 14 + lower}};
-    FillShape(graphics, triangle, 3, color);
+    FillTriangle(dc, triangle, color);
     if (Text().IsEmpty()) return;
-    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kTextEm),
-               CRect(kTextLeft, 0, width - kTriangleSpace, size.cy), TextLayout::LeftMiddle,
-               Ink(IsEnabled() ? kBackgroundColor : DisabledColor()));
+    DrawTextIn(dc, Text(), TextFont(FaceOf(Font()), kTextEm), CRect(kTextLeft, 0, width - kTriangleSpace, size.cy),
+               TextLayout::LeftMiddle, Ink(IsEnabled() ? kBackgroundColor : DisabledColor()));
 }

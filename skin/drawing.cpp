@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "skin/fonts.h"
+#include "skin/kept_drawing.h"
+#include "skin/numbers.h"
 #include "skin/off_screen.h"
 #include "skin/system_library.h"
 
@@ -13,6 +15,42 @@ std::atomic<unsigned> g_failedDrawings = 0;
 
 void Note(bool drawn) {
     if (!drawn) ++g_failedDrawings;
+}
+
+// The area of a whole surface.
+const CRect kWhole(0, 0, 0x7fff, 0x7fff);
+
+Gdiplus::RectF Exactly(const CRect& rect) {
+    return {static_cast<float>(rect.left), static_cast<float>(rect.top), static_cast<float>(rect.Width()),
+            static_cast<float>(rect.Height())};
+}
+
+class CTextFormat {
+public:
+    explicit CTextFormat(TextLayout layout) { SetUp(layout); }
+    operator const Gdiplus::StringFormat*() const { return &m_format; }
+
+private:
+    void SetUp(TextLayout layout);
+
+    Gdiplus::StringFormat m_format;
+};
+
+void CTextFormat::SetUp(TextLayout layout) {
+    if (layout == TextLayout::Wrapped) return;
+    m_format.SetLineAlignment(Gdiplus::StringAlignmentCenter);
+    if (layout == TextLayout::Centred || layout == TextLayout::Tip)
+        m_format.SetAlignment(Gdiplus::StringAlignmentCenter);
+    if (layout == TextLayout::Tip) {
+        m_format.SetHotkeyPrefix(Gdiplus::HotkeyPrefixShow);
+        m_format.SetFormatFlags(
+            Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoFitBlackBox |
+            Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip);
+        m_format.SetTrimming(Gdiplus::StringTrimmingNone);
+        return;
+    }
+    m_format.SetFormatFlags(Gdiplus::StringFormatFlagsNoWrap);
+    if (layout != TextLayout::Title) m_format.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
 }
 
 }  // namespace
@@ -30,11 +68,14 @@ CMemoryDC::~CMemoryDC() {
 }
 
 CBufferedPaint::CBufferedPaint(HDC target, const CRect& rect)
-    : m_target(target), m_rect(rect), m_screen(TakeOffScreen(rect.Size())) {}
+    : m_target(target), m_rect(rect), m_screen(TakeOffScreen(rect.Size())) {
+    if (m_screen) ::IntersectClipRect(m_screen->Dc(), 0, 0, rect.Width(), rect.Height());
+}
 
 CBufferedPaint::~CBufferedPaint() {
     if (!m_screen) return;
     CopyPicture(m_target, m_rect, m_screen->Dc(), CPoint(0, 0));
+    ::SelectClipRgn(m_screen->Dc(), nullptr);
     KeepOffScreen(std::move(m_screen));
 }
 
@@ -107,27 +148,45 @@ void DrawFocusMark(HDC dc, const CRect& control) {
     DrawLines(dc, frame, static_cast<int>(std::size(frame)), kAccentColor);
 }
 
-void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color) {
-    const int right = size.cx - 1;
-    const int bottom = size.cy - 1;
-    const Gdiplus::Point corners[] = {
-        {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
-        {1, bottom}, {0, bottom - 1}, {0, 1}};
-    if (const auto* pen = SharedPen(Ink(color))) {
-        graphics.DrawPolygon(pen, corners, static_cast<INT>(std::size(corners)));
+void DrawCutCornerOutline(HDC dc, CSize size, COLORREF color) {
+    CString key;
+    key.Format(L"outline %x", InkColor(color));
+    DrawKept(dc, CRect(CPoint(0, 0), size), key, [&](Gdiplus::Graphics& graphics) {
+        const int right = size.cx - 1;
+        const int bottom = size.cy - 1;
+        const Gdiplus::Point corners[] = {
+            {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
+            {1, bottom}, {0, bottom - 1}, {0, 1}};
+        const Gdiplus::Pen pen(Ink(color), 1.0F);
+        graphics.DrawPolygon(&pen, corners, static_cast<INT>(std::size(corners)));
+    });
+}
+
+void FillTriangle(HDC dc, const Gdiplus::Point (&corners)[3], COLORREF color) {
+    CString key;
+    key.Format(L"triangle %x", InkColor(color));
+    for (const Gdiplus::Point& corner : corners) {
+        CString place;
+        place.Format(L" %d %d", corner.X, corner.Y);
+        key += place;
     }
+    DrawKept(dc, kWhole, key, [&](Gdiplus::Graphics& graphics) {
+        const Gdiplus::SolidBrush brush(Ink(color));
+        graphics.FillPolygon(&brush, corners, 3);
+    });
 }
 
-void FillShape(Gdiplus::Graphics& graphics, const Gdiplus::Point* corners, int count, COLORREF color) {
-    if (const auto* brush = SharedBrush(Ink(color))) graphics.FillPolygon(brush, corners, count);
-}
-
-void FillCircle(Gdiplus::Graphics& graphics, int x, int y, int diameter, COLORREF color) {
-    // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
-    Gdiplus::GraphicsPath circle;
-    circle.AddEllipse(x, y, diameter, diameter);
-    circle.Flatten(nullptr, 0.01F);
-    if (const auto* brush = SharedBrush(OpaqueColor(color))) graphics.FillPath(brush, &circle);
+void FillCircle(HDC dc, int x, int y, int diameter, COLORREF color) {
+    CString key;
+    key.Format(L"circle %d %d %d %x", x, y, diameter, color);
+    DrawKept(dc, kWhole, key, [&](Gdiplus::Graphics& graphics) {
+        // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
+        Gdiplus::GraphicsPath circle;
+        circle.AddEllipse(x, y, diameter, diameter);
+        circle.Flatten(nullptr, 0.01F);
+        const Gdiplus::SolidBrush brush(OpaqueColor(color));
+        graphics.FillPath(&brush, &circle);
+    });
 }
 
 CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
@@ -138,38 +197,53 @@ CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
 
 CTextGraphics::~CTextGraphics() { Note(GetLastStatus() == Gdiplus::Ok); }
 
-void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, const CRect& rect,
-                TextLayout layout, const Gdiplus::Color& color) {
-    const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
-                              static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
-    graphics.DrawString(text, text.GetLength(), font, area, FormatOf(layout), SharedBrush(color));
+void DrawTextIn(HDC dc, const CString& text, const Gdiplus::Font* font, const CRect& rect, TextLayout layout,
+                const Gdiplus::Color& color) {
+    CString key;
+    key.Format(L"text %p %d %x %d %d %d %d ", font, static_cast<int>(layout), color.GetValue(),
+               static_cast<int>(rect.left), static_cast<int>(rect.top), rect.Width(), rect.Height());
+    DrawKept(dc, kWhole, key + text, [&](Gdiplus::Graphics& graphics) {
+        const Gdiplus::SolidBrush brush(color);
+        graphics.DrawString(text, text.GetLength(), font, Exactly(rect), CTextFormat(layout), &brush);
+    });
 }
 
-void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, CPoint at,
-                      COLORREF color, COLORREF halo) {
-    const auto drawAt = [&](int x, int y, COLORREF ink) {
-        graphics.DrawString(text, text.GetLength(), font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)),
-                            SharedBrush(OpaqueColor(ink)));
-    };
-    for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
-        drawAt(at.x + offset.x, at.y + offset.y, GroundColor(halo));
-    }
-    drawAt(at.x, at.y, InkColor(color));
+void DrawCaption(HDC dc, CSize size, const CString& text, const Gdiplus::Font* font, COLORREF color, COLORREF halo) {
+    CString key;
+    key.Format(L"caption %p %x %x ", font, InkColor(color), GroundColor(halo));
+    DrawKept(dc, CRect(CPoint(0, 0), size), key + text, [&](Gdiplus::Graphics& graphics) {
+        const Gdiplus::SizeF measured = MeasureText(graphics, text, font);
+        const int left = TruncateToInt((static_cast<double>(size.cx) - measured.Width) * 0.5);
+        const int top = TruncateToInt((static_cast<double>(size.cy) - measured.Height) * 0.5 + 1.0);
+        const auto drawAt = [&](int x, int y, COLORREF ink) {
+            const Gdiplus::SolidBrush brush(OpaqueColor(ink));
+            graphics.DrawString(
+                text, text.GetLength(), font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)), &brush);
+        };
+        for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
+            drawAt(left + offset.x, top + offset.y, GroundColor(halo));
+        }
+        drawAt(left, top, InkColor(color));
+    });
 }
 
-void DrawTitleText(Gdiplus::Graphics& graphics, const CString& text, const CRect& rect, const Gdiplus::Color& color) {
+void DrawTitleText(HDC dc, const CString& text, const CRect& rect, const Gdiplus::Color& color) {
     constexpr float kEm = 15.0F;
-    const Gdiplus::RectF area(static_cast<float>(rect.left), static_cast<float>(rect.top),
-                              static_cast<float>(rect.Width()), static_cast<float>(rect.Height()));
-    Gdiplus::GraphicsPath path;
-    path.AddString(text, text.GetLength(), FontFamilyFor(L"Arial"), Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic,
-                   kEm, area, FormatOf(TextLayout::Title));
-    if (const auto* brush = SharedBrush(color)) graphics.FillPath(brush, &path);
+    CString key;
+    key.Format(L"title %x ", color.GetValue());
+    DrawKept(dc, rect, key + text, [&](Gdiplus::Graphics& graphics) {
+        Gdiplus::GraphicsPath path;
+        path.AddString(
+            text, text.GetLength(), FontFamilyFor(L"Arial"), Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic, kEm,
+            Exactly(rect), CTextFormat(TextLayout::Title));
+        const Gdiplus::SolidBrush brush(color);
+        graphics.FillPath(&brush, &path);
+    });
 }
 
 Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font,
                            TextLayout layout) {
     Gdiplus::RectF bounds;
-    graphics.MeasureString(text, text.GetLength(), font, Gdiplus::PointF(0, 0), FormatOf(layout), &bounds);
+    graphics.MeasureString(text, text.GetLength(), font, Gdiplus::PointF(0, 0), CTextFormat(layout), &bounds);
     return {bounds.Width, bounds.Height};
 }

@@ -115,7 +115,7 @@ void DrawOpenCornerFrame(HDC dc, CSize size, COLORREF color);
 CRect FocusMarkAround(const CRect& control);
 void DrawFocusMark(HDC dc, const CRect& control);
 /// The outline of edit boxes and drop-down lists: anti-aliased, closed, with one-pixel cut corners.
-void DrawCutCornerOutline(Gdiplus::Graphics& graphics, CSize size, COLORREF color);
+void DrawCutCornerOutline(HDC dc, CSize size, COLORREF color);
 
 inline Gdiplus::Color OpaqueColor(COLORREF color) {
     return Gdiplus::Color(
@@ -143,15 +143,14 @@ enum class TextLayout {
 
 // What can't be made for lack of memory is null and draws nothing.
 
-void DrawTextIn(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, const CRect& rect,
-                TextLayout layout, const Gdiplus::Color& color);
-/// Draws a text at a point with a one-pixel halo around it.
-void DrawOutlinedText(Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font, CPoint at,
-                      COLORREF color, COLORREF halo);
+void DrawTextIn(HDC dc, const CString& text, const Gdiplus::Font* font, const CRect& rect, TextLayout layout,
+                const Gdiplus::Color& color);
+/// Draws a text in the middle of a surface with a one-pixel halo around it.
+void DrawCaption(HDC dc, CSize size, const CString& text, const Gdiplus::Font* font, COLORREF color, COLORREF halo);
 /// Draws the outlines of a dialog title's letters, filled: smoother than text, and it can be translucent.
-void DrawTitleText(Gdiplus::Graphics& graphics, const CString& text, const CRect& rect, const Gdiplus::Color& color);
-void FillShape(Gdiplus::Graphics& graphics, const Gdiplus::Point* corners, int count, COLORREF color);
+void DrawTitleText(HDC dc, const CString& text, const CRect& rect, const Gdiplus::Color& color);
+void FillTriangle(HDC dc, const Gdiplus::Point (&corners)[3], COLORREF color);
 /// In exactly this colour.
-void FillCircle(Gdiplus::Graphics& graphics, int x, int y, int diameter, COLORREF color);
+void FillCircle(HDC dc, int x, int y, int diameter, COLORREF color);
 Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font,
                            TextLayout layout = TextLayout::Wrapped);

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "skin/kept_drawing.h"
+#include "skin/lock.h"
 #include "skin/off_screen.h"
 
 namespace {
@@ -45,24 +47,11 @@ struct SharedDrawing {
     std::map<CString, Gdiplus::FontFamily, FaceLess> families;
     std::map<FontKey, Gdiplus::Font> fonts;
     std::map<HFONT, Gdiplus::Font> matchingFonts;
-    std::map<Gdiplus::ARGB, Gdiplus::SolidBrush> brushes;
-    std::map<Gdiplus::ARGB, Gdiplus::Pen> pens;
-    std::map<TextLayout, Gdiplus::StringFormat> formats;
     std::map<std::wstring, Gdiplus::Bitmap> pictures;
-    std::map<std::wstring, std::unique_ptr<COffScreen>> drawn;
 };
 
-// Dialogs may be open on several threads.
 SRWLOCK g_lock = SRWLOCK_INIT;
 std::unique_ptr<SharedDrawing> g_shared;
-
-class CSharedLock {
-public:
-    CSharedLock() { ::AcquireSRWLockExclusive(&g_lock); }
-    ~CSharedLock() { ::ReleaseSRWLockExclusive(&g_lock); }
-    CSharedLock(const CSharedLock&) = delete;
-    CSharedLock& operator=(const CSharedLock&) = delete;
-};
 
 bool IsMade(const Gdiplus::FontFamily& family) { return family.GetLastStatus() == Gdiplus::Ok && family.IsAvailable(); }
 template <typename Object>
@@ -78,7 +67,7 @@ SharedDrawing& Shared() {
 /// Finds an object by its key or has `make` put it into the map; null, with nothing kept, when it can't be made.
 template <typename Key, typename Object, typename Order, typename Make>
 Object* FindOrMake(std::map<Key, Object, Order> SharedDrawing::*objects, const Key& key, Make make) {
-    const CSharedLock lock;
+    const CLock lock(g_lock);
     try {
         auto& map = Shared().*objects;
         if (const auto found = map.find(key); found != map.end()) return &found->second;
@@ -91,7 +80,7 @@ Object* FindOrMake(std::map<Key, Object, Order> SharedDrawing::*objects, const K
 }
 
 HFONT FindOrMake(CFontHandle SharedDrawing::*font, int height, int width, int weight) {
-    const CSharedLock lock;
+    const CLock lock(g_lock);
     try {
         CFontHandle& handle = Shared().*font;
         if (!handle) handle = MakeFont(height, width, weight);
@@ -142,37 +131,6 @@ CString SubstituteFor(LPCWSTR face) {
     return AnyInstalledFamily();
 }
 
-void CopyAllButCorners(HDC dc, CSize size, HDC picture) {
-    for (const CRect& part : {CRect(1, 0, size.cx - 1, size.cy), CRect(0, 1, 1, size.cy - 1),
-                              CRect(size.cx - 1, 1, size.cx, size.cy - 1)}) {
-        CopyPicture(dc, part, picture, part.TopLeft());
-    }
-}
-
-bool CopyKept(HDC dc, CSize size, const std::wstring& key) {
-    const CSharedLock lock;
-    const auto found = Shared().drawn.find(key);
-    if (found == Shared().drawn.end()) return false;
-    CopyAllButCorners(dc, size, found->second->Dc());
-    return true;
-}
-
-void SetUp(Gdiplus::StringFormat& format, TextLayout layout) {
-    if (layout == TextLayout::Wrapped) return;
-    format.SetLineAlignment(Gdiplus::StringAlignmentCenter);
-    if (layout == TextLayout::Centred || layout == TextLayout::Tip) format.SetAlignment(Gdiplus::StringAlignmentCenter);
-    if (layout == TextLayout::Tip) {
-        format.SetHotkeyPrefix(Gdiplus::HotkeyPrefixShow);
-        format.SetFormatFlags(
-            Gdiplus::StringFormatFlagsMeasureTrailingSpaces | Gdiplus::StringFormatFlagsNoFitBlackBox |
-            Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip);
-        format.SetTrimming(Gdiplus::StringTrimmingNone);
-        return;
-    }
-    format.SetFormatFlags(Gdiplus::StringFormatFlagsNoWrap);
-    if (layout != TextLayout::Title) format.SetTrimming(Gdiplus::StringTrimmingEllipsisCharacter);
-}
-
 }  // namespace
 
 HFONT ItemFont() { return FindOrMake(&SharedDrawing::itemFont, 16, 6, FW_BOLD); }
@@ -209,24 +167,6 @@ const Gdiplus::Font* MatchingFont(HFONT font) {
     });
 }
 
-const Gdiplus::SolidBrush* SharedBrush(const Gdiplus::Color& color) {
-    const Gdiplus::ARGB key = color.GetValue();
-    return FindOrMake(&SharedDrawing::brushes, key, [&](auto& map) { return map.try_emplace(key, color).first; });
-}
-
-const Gdiplus::Pen* SharedPen(const Gdiplus::Color& color) {
-    const Gdiplus::ARGB key = color.GetValue();
-    return FindOrMake(&SharedDrawing::pens, key, [&](auto& map) { return map.try_emplace(key, color, 1.0F).first; });
-}
-
-const Gdiplus::StringFormat* FormatOf(TextLayout layout) {
-    return FindOrMake(&SharedDrawing::formats, layout, [&](auto& map) {
-        const auto made = map.try_emplace(layout).first;
-        SetUp(made->second, layout);
-        return made;
-    });
-}
-
 Gdiplus::Bitmap* SharedPicture(LPCWSTR file) {
     const std::wstring key(file);
     return FindOrMake(&SharedDrawing::pictures, key, [&](auto& map) {
@@ -245,20 +185,9 @@ Gdiplus::Bitmap* SharedPicture(LPCWSTR file) {
     });
 }
 
-void DrawKept(HDC dc, CSize size, const std::wstring& key, const std::function<void(HDC)>& paint) {
-    if (CopyKept(dc, size, key)) return;
-    auto picture = std::make_unique<COffScreen>();
-    if (!picture->Fit(size)) return;
-    const unsigned failed = FailedDrawings();
-    paint(picture->Dc());
-    CopyAllButCorners(dc, size, picture->Dc());
-    if (FailedDrawings() != failed) return;
-    const CSharedLock lock;
-    Shared().drawn.try_emplace(key, std::move(picture));
-}
-
 void ReleaseSharedDrawing() {
     ReleaseOffScreen();
-    const CSharedLock lock;
+    ReleaseKeptDrawings();
+    const CLock lock(g_lock);
     g_shared.reset();
 }

@@ -1,9 +1,5 @@
-// The fonts, brushes, text formats and pictures that all controls share: each is made once and kept until the library
-// goes. All GDI+ objects that outlive a call are made here.
+// The fonts and pictures that all controls share: each is made once and kept until the library goes. All GDI+ objects that outlive a call are made here.
 #pragma once
-
-#include <functional>
-#include <string>
 
 #include <afxwin.h>
 
@@ -24,14 +20,8 @@ const Gdiplus::FontFamily* FontFamilyFor(LPCWSTR face);
 const Gdiplus::Font* TextFont(LPCWSTR face, float emPixels, Gdiplus::FontStyle style = Gdiplus::FontStyleRegular);
 /// The GDI+ font that matches a GDI font in height and weight.
 const Gdiplus::Font* MatchingFont(HFONT font);
-const Gdiplus::SolidBrush* SharedBrush(const Gdiplus::Color& color);
-const Gdiplus::Pen* SharedPen(const Gdiplus::Color& color);  ///< One pixel wide.
-const Gdiplus::StringFormat* FormatOf(TextLayout layout);
 /// The picture in a file, which is read once.
 Gdiplus::Bitmap* SharedPicture(LPCWSTR file);
-/// Draws what `paint` draws, but for the four corner pixels. It is drawn once and kept under the key until the library
-/// goes, so the key has to name all that it depends on, and there may be only a few.
-void DrawKept(HDC dc, CSize size, const std::wstring& key, const std::function<void(HDC)>& paint);
 
 /// Deletes them all; the next use makes them again. Must run before GDI+ is shut down.
 void ReleaseSharedDrawing();

@@ -92,10 +92,9 @@ void CHintTip::OnPaint() {
         FillRectangle(buffer.Dc(), client, GroundColor(kBackgroundColor));
     }
     {
-        CTextGraphics graphics(buffer.Dc());
         CRect line = client;
         line.InflateRect(2, 0);  // The width was truncated: in an exact rectangle the last letter might not fit.
-        DrawTextIn(graphics, m_text, TextFontOfTip(), line, TextLayout::Tip, Ink(kTextColor));
+        DrawTextIn(buffer.Dc(), m_text, TextFontOfTip(), line, TextLayout::Tip, Ink(kTextColor));
     }
     const LONG right = client.right - 1;
     const LONG bottom = client.bottom - 1;

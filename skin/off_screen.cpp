@@ -3,20 +3,31 @@
 #include <new>
 #include <utility>
 
+#include "skin/lock.h"
+
 namespace {
 
 SRWLOCK g_lock = SRWLOCK_INIT;
 std::unique_ptr<COffScreen> g_kept;  // Null while it is in use.
 
-class CLock {
-public:
-    CLock() { ::AcquireSRWLockExclusive(&g_lock); }
-    ~CLock() { ::ReleaseSRWLockExclusive(&g_lock); }
-    CLock(const CLock&) = delete;
-    CLock& operator=(const CLock&) = delete;
-};
-
 }  // namespace
+
+HBITMAP COffScreen::CreateLikeTheScreen(CSize size) {
+    return ::CreateCompatibleBitmap(CBorrowedDC(nullptr), size.cx, size.cy);
+}
+
+HBITMAP COffScreen::CreateReadable(CSize size) {
+    BITMAPINFO description{};
+    description.bmiHeader.biSize = sizeof(description.bmiHeader);
+    description.bmiHeader.biWidth = size.cx;
+    description.bmiHeader.biHeight = -size.cy;  // The first row first.
+    description.bmiHeader.biPlanes = 1;
+    description.bmiHeader.biBitCount = 32;
+    void* pixels = nullptr;
+    const HBITMAP bitmap = ::CreateDIBSection(m_dc, &description, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    if (bitmap) m_pixels = static_cast<DWORD*>(pixels);
+    return bitmap;
+}
 
 bool COffScreen::Fit(CSize size) {
     if (m_dc && size.cx <= m_size.cx && size.cy <= m_size.cy) return true;
@@ -25,8 +36,7 @@ bool COffScreen::Fit(CSize size) {
         m_noBitmap = ::GetCurrentObject(m_dc, OBJ_BITMAP);
     }
     const CSize grown((std::max)(size.cx, m_size.cx), (std::max)(size.cy, m_size.cy));
-    const CBorrowedDC display(nullptr);
-    CBitmapHandle bitmap{::CreateCompatibleBitmap(display, grown.cx, grown.cy)};
+    CBitmapHandle bitmap{m_readable ? CreateReadable(grown) : CreateLikeTheScreen(grown)};
     if (!bitmap || !::SelectObject(m_dc, bitmap.Get())) return false;
     m_bitmap = std::move(bitmap);
     m_size = grown;
@@ -38,13 +48,14 @@ void COffScreen::Release() {
     ::SelectObject(m_dc, m_noBitmap);
     ::DeleteDC(std::exchange(m_dc, nullptr));
     m_bitmap.Reset();
+    m_pixels = nullptr;
     m_size = CSize(0, 0);
 }
 
 std::unique_ptr<COffScreen> TakeOffScreen(CSize size) {
     std::unique_ptr<COffScreen> screen;
     {
-        const CLock lock;
+        const CLock lock(g_lock);
         screen = std::move(g_kept);
     }
     if (!screen) screen.reset(new (std::nothrow) COffScreen);
@@ -52,11 +63,11 @@ std::unique_ptr<COffScreen> TakeOffScreen(CSize size) {
 }
 
 void KeepOffScreen(std::unique_ptr<COffScreen> screen) {
-    const CLock lock;
+    const CLock lock(g_lock);
     g_kept = std::move(screen);
 }
 
 void ReleaseOffScreen() {
-    const CLock lock;
+    const CLock lock(g_lock);
     g_kept.reset();
 }

@@ -1,6 +1,6 @@
 #include "skin/skin_button.h"
 
-#include "skin/numbers.h"
+#include "skin/kept_drawing.h"
 
 void CSkinButton::SetPicture(LPCWSTR path) {
     m_pictureFile = path;
@@ -17,13 +17,6 @@ ControlFacts CSkinButton::Facts() const {
 }
 
 void CSkinButton::Paint(HDC dc, CSize size) {
-    if (m_framed && m_pictureFile.IsEmpty()) {
-        DrawKept(dc, size, FaceKey(size), [&](HDC face) {
-            PaintFace(face, size);
-            PaintCaption(face, size);
-        });
-        return;
-    }
     if (m_framed) PaintFace(dc, size);
     if (!m_pictureFile.IsEmpty() && IsHighContrast()) {
         PaintCross(dc, size);
@@ -31,13 +24,6 @@ void CSkinButton::Paint(HDC dc, CSize size) {
         PaintPicture(dc, size);
     }
     PaintCaption(dc, size);
-}
-
-std::wstring CSkinButton::FaceKey(CSize size) const {
-    CString key;
-    key.Format(L"%d %d %d%d%d %p %x %x %x ", size.cx, size.cy, IsEnabled(), IsPressed(), IsHovered(), Font(),
-               DisabledColor(), InkColor(kTextColor), GroundColor(kBackgroundColor));
-    return std::wstring(key + Text());
 }
 
 void CSkinButton::PaintFace(HDC dc, CSize size) const {
@@ -58,8 +44,11 @@ void CSkinButton::PaintPicture(HDC dc, CSize size) const {
     const int frame = !IsEnabled() ? 3 : IsPressed() ? 2 : IsHovered() ? 1 : 0;
     const int shift = IsPressed() ? 1 : 0;
     const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);
-    CTextGraphics graphics(dc);
-    graphics.DrawImage(picture, place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+    CString key;
+    key.Format(L"picture %d %d ", frame, shift);
+    DrawKept(dc, CRect(CPoint(0, 0), size), key + m_pictureFile, [&](Gdiplus::Graphics& graphics) {
+        graphics.DrawImage(picture, place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+    });
 }
 
 void CSkinButton::PaintCross(HDC dc, CSize size) {
@@ -81,10 +70,5 @@ void CSkinButton::PaintCaption(HDC dc, CSize size) const {
         : hoverFace   ? kOrangeColor
                       : kTextColor;
     const COLORREF halo = IsPressed() ? Lighten(kAccentColor, 40) : IsHovered() ? kAccentColor : kBackgroundColor;
-    CTextGraphics graphics(dc);
-    const Gdiplus::Font* font = MatchingFont(Font());
-    const Gdiplus::SizeF text = MeasureText(graphics, Text(), font);
-    const CPoint at(TruncateToInt((static_cast<double>(size.cx) - text.Width) * 0.5),
-                    TruncateToInt((static_cast<double>(size.cy) - text.Height) * 0.5 + 1.0));
-    DrawOutlinedText(graphics, Text(), font, at, color, halo);
+    DrawCaption(dc, size, Text(), MatchingFont(Font()), color, halo);
 }

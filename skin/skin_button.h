@@ -20,7 +20,6 @@ protected:
     void Paint(HDC dc, CSize size) override;
 
 private:
-    std::wstring FaceKey(CSize size) const;
     void PaintFace(HDC dc, CSize size) const;
     void PaintPicture(HDC dc, CSize size) const;
     /// The picture of the only button that has one, the close button, in the system's own colours.

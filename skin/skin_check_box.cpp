@@ -28,19 +28,18 @@ void CSkinCheckBox::Paint(HDC dc, CSize size) {
         FillFace(dc, CRect(1, 1, size.cx - 1, size.cy - 1), kAccentColor, kBackgroundColor);
         DrawOpenCornerFrame(dc, size, Lighten(kAccentColor, 30));
     }
-    CTextGraphics graphics(dc);
-    DrawMark(graphics, dc, 1, (size.cy - kMarkSize) / 2);
+    DrawMark(dc, 1, (size.cy - kMarkSize) / 2);
     if (Text().IsEmpty()) return;
     const COLORREF color =
         !IsEnabled()  ? DisabledColor()
         : IsPressed() ? Darken(kOrangeColor, 30)
         : IsHovered() ? kOrangeColor
                       : Darken(kTextColor, 30);
-    DrawTextIn(graphics, Text(), TextFont(FaceOf(Font()), kCaptionEm),
+    DrawTextIn(dc, Text(), TextFont(FaceOf(Font()), kCaptionEm),
                CRect(kCaptionLeft, 0, kCaptionLeft + size.cx, size.cy), TextLayout::LeftMiddle, Ink(color));
 }
 
-void CSkinCheckBox::DrawMark(Gdiplus::Graphics& /*graphics*/, HDC dc, int x, int y) const {
+void CSkinCheckBox::DrawMark(HDC dc, int x, int y) const {
     const LONG last = kMarkSize - 1;
     const POINT box[] = {{x, y}, {x + last, y}, {x + last, y + last}, {x, y + last}, {x, y}};
     DrawLines(dc, box, 5, m_checked && IsEnabled() ? kBlueColor : kAccentColor);

@@ -14,7 +14,7 @@ public:
 protected:
     void OnClick() override { SetChecked(!m_checked); }
     void Paint(HDC dc, CSize size) override;
-    virtual void DrawMark(Gdiplus::Graphics& graphics, HDC dc, int x, int y) const;
+    virtual void DrawMark(HDC dc, int x, int y) const;
 
 private:
     bool m_plain = true;

@@ -37,6 +37,12 @@ CPoint WayInto(const CRect& area, const CRect& rect) {
     return CPoint(x - rect.left, y - rect.top);
 }
 
+void FillTitleBand(HDC dc, int width) {
+    const COLORREF top = Lighten(kBackgroundColor, 15);
+    FillVerticalGradient(dc, CRect(1, 1, width - 1, 16), top, Darken(top, 5));
+    FillVerticalGradient(dc, CRect(1, 16, width - 1, kTitleHeight), kBackgroundColor, kBackgroundColor);
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
@@ -181,10 +187,8 @@ void CSkinDialog::CreateBackground() {
     }
     {
         const HDC dc = m_background.Dc();
-        const COLORREF bandTop = Lighten(kBackgroundColor, 15);
         FillRectangle(dc, CRect(0, 0, width, height), GroundColor(kBackgroundColor));
-        FillVerticalGradient(dc, CRect(1, 1, width - 1, 16), bandTop, Darken(bandTop, 5));
-        FillVerticalGradient(dc, CRect(1, 16, width - 1, kTitleHeight), kBackgroundColor, kBackgroundColor);
+        FillTitleBand(dc, width);
 
         const LONG right = width - 2;
         const LONG bottom = height - 2;
@@ -231,16 +235,17 @@ void CSkinDialog::DrawTitle(HDC dc) {
     GetWindowText(title);
     m_titleChanged = false;
     if (title.IsEmpty()) return;
-    CTextGraphics graphics(dc);
-    // The close button stands on the bare band, however long the title is.
-    const CRect button = m_closeButton.Bounds();
-    if (m_closeButton.IsVisible()) {
-        graphics.ExcludeClip(Gdiplus::Rect(button.left, button.top, button.Width(), button.Height()));
-    }
     const COLORREF color = InkColor(Darken(kTextColor, 10));
-    DrawTitleText(graphics, title, CRect(10, 0, 10 + ClientRect().Width(), kTitleHeight),
+    const int width = ClientRect().Width();
+    DrawTitleText(dc, title, CRect(10, 0, 10 + width, kTitleHeight),
                   Gdiplus::Color(IsHighContrast() ? BYTE{255} : BYTE{200}, static_cast<BYTE>(RedOf(color)),
                                  static_cast<BYTE>(GreenOf(color)), static_cast<BYTE>(BlueOf(color))));
+    if (!m_closeButton.IsVisible()) return;
+    // The close button stands on the bare band, however long the title is.
+    const CRect button = m_closeButton.Bounds();
+    ::IntersectClipRect(dc, button.left, button.top, button.right, button.bottom);
+    FillTitleBand(dc, width);
+    ::SelectClipRgn(dc, nullptr);
 }
 
 void CSkinDialog::OnPaint() {

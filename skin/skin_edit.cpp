@@ -85,6 +85,5 @@ bool CSkinEdit::SetValueText(LPCWSTR text) {
 
 void CSkinEdit::Paint(HDC dc, CSize size) {
     FillRectangle(dc, CRect(1, 1, size.cx - 1, size.cy - 1), GroundColor(kTextColor));
-    CTextGraphics graphics(dc);
-    DrawCutCornerOutline(graphics, size, IsHovered() || IsPressed() ? kHoverOutlineColor : kOutlineColor);
+    DrawCutCornerOutline(dc, size, IsHovered() || IsPressed() ? kHoverOutlineColor : kOutlineColor);
 }

@@ -7,13 +7,11 @@ ControlFacts CSkinRadioButton::Facts() const {
     return facts;
 }
 
-void CSkinRadioButton::DrawMark(Gdiplus::Graphics& graphics, HDC /*dc*/, int x, int y) const {
+void CSkinRadioButton::DrawMark(HDC dc, int x, int y) const {
     const auto fillCircle = [&](int inset, int diameter, COLORREF color) {
-        FillCircle(graphics, x + inset, y + inset, diameter, color);
+        FillCircle(dc, x + inset, y + inset, diameter, color);
     };
-    graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAliasGridFit);
     fillCircle(0, 13, InkColor(!IsEnabled() ? DisabledColor() : IsChecked() ? kBlueColor : kAccentColor));
     fillCircle(1, 11, GroundColor(kTextColor));
     if (IsChecked()) fillCircle(4, 5, InkColor(IsEnabled() ? kGreenColor : DisabledColor()));
-    graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintClearTypeGridFit);
 }

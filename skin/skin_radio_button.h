@@ -10,5 +10,5 @@ public:
 
 protected:
     void OnClick() override { SetChecked(true); }
-    void DrawMark(Gdiplus::Graphics& graphics, HDC dc, int x, int y) const override;
+    void DrawMark(HDC dc, int x, int y) const override;
 };

@@ -20,16 +20,16 @@ void CSkinStatic::SetPicture(std::unique_ptr<Gdiplus::Image> picture) {
 void CSkinStatic::Paint(HDC dc, CSize size) {
     const CRect all(0, 0, size.cx, size.cy);
     if (!Background()) FillRectangle(dc, all, GroundColor(kBareColor));
-    CTextGraphics graphics(dc);
     if (m_picture) {
+        CTextGraphics graphics(dc);
         const int width = static_cast<int>(m_picture->GetWidth());
         const int height = static_cast<int>(m_picture->GetHeight());
         graphics.DrawImage(m_picture.get(), (std::max)(static_cast<int>(size.cx) - width, 0),
                            (static_cast<int>(size.cy) - height) / 2, width, height);
     }
     if (Text().IsEmpty()) return;
-    DrawTextIn(graphics, Text(), DrawnFont(), all, m_leftAligned ? TextLayout::LeftMiddle : TextLayout::Centred,
-               Ink(m_textColor));
+    DrawTextIn(
+        dc, Text(), DrawnFont(), all, m_leftAligned ? TextLayout::LeftMiddle : TextLayout::Centred, Ink(m_textColor));
 }
 
 const Gdiplus::Font* CSkinStatic::DrawnFont() const {

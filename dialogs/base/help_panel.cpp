@@ -16,6 +16,5 @@ void PaintHelpPanel(HDC dc, const CRect& rect, const CString& text) {
     const CBufferedPaint buffer(dc, rect);
     FillRectangle(buffer.Dc(), panel, GroundColor(kBackgroundColor));
     if (text.IsEmpty()) return;
-    CTextGraphics graphics(buffer.Dc());
-    DrawTextIn(graphics, text, TextFont(L"Arial", kTextEm), panel, TextLayout::Wrapped, Ink(kHelpTextColor));
+    DrawTextIn(buffer.Dc(), text, TextFont(L"Arial", kTextEm), panel, TextLayout::Wrapped, Ink(kHelpTextColor));
 }
