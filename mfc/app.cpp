@@ -1,5 +1,4 @@
 // The module: its object, its window classes, message boxes.
-#include <cstdint>
 #include <set>
 #include <string>
 
@@ -44,12 +43,9 @@ int AfxMessageBox(LPCWSTR text, UINT type, UINT /*helpId*/) {
 }
 
 LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon) {
-    std::wstring name = L"Afx";
-    for (const auto part : {reinterpret_cast<std::uintptr_t>(AfxGetInstanceHandle()),
-                            static_cast<std::uintptr_t>(style), reinterpret_cast<std::uintptr_t>(cursor),
-                            reinterpret_cast<std::uintptr_t>(background), reinterpret_cast<std::uintptr_t>(icon)}) {
-        name += L':' + std::to_wstring(part);
-    }
+    CString parts;
+    parts.Format(L"Afx:%p:%x:%p:%p:%p", AfxGetInstanceHandle(), style, cursor, background, icon);
+    const std::wstring name(parts);
     ClassNames& classes = RegisteredClasses();
     const afx::Lock lock(classes.lock);
     // Noted before it is registered: a class that nobody knew of could never be registered again.

@@ -1,6 +1,6 @@
 // CWnd: objects and their windows, message dispatch.
 #include <cstdarg>
-#include <unordered_map>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -28,7 +28,7 @@ public:
 
 private:
     SRWLOCK m_lock = SRWLOCK_INIT;
-    std::unordered_map<HWND, CWnd*> m_objects;
+    std::map<HWND, CWnd*> m_objects;
 };
 
 WindowMap& Windows() {
