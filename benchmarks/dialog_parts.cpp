@@ -7,16 +7,10 @@
 
 #include "benchmarks/opened_dialog.h"
 #include "benchmarks/stub_host.h"
-#include "skin/color_swatch.h"
-#include "skin/combo_list_box.h"
 #include "skin/fonts.h"
 #include "skin/gdi_plus.h"
-#include "skin/skin_check_box.h"
 #include "skin/skin_dialog.h"
-#include "skin/skin_edit.h"
-#include "skin/skin_radio_button.h"
 #include "skin/skin_slider.h"
-#include "skin/skin_static.h"
 
 namespace {
 
@@ -25,32 +19,41 @@ struct Opened : CSkinDialog {
     static const auto& ControlsOf(CSkinDialog& dialog) { return (dialog.*(&Opened::Controls))(); }
 };
 
-CSkinDialog* DialogOf(HWND window) { return dynamic_cast<CSkinDialog*>(CWnd::FromHandlePermanent(window)); }
+CSkinDialog* DialogOf(HWND window) { return static_cast<CSkinDialog*>(CWnd::FromHandlePermanent(window)); }
 
-TwinKind KindOf(const CSkinItem& item) {
-    if (dynamic_cast<const CSkinRadioButton*>(&item)) return TwinKind::RadioButton;
-    if (dynamic_cast<const CSkinCheckBox*>(&item)) return TwinKind::CheckBox;
-    if (dynamic_cast<const CSkinEdit*>(&item)) return TwinKind::Edit;
-    if (dynamic_cast<const CVelComboListBox*>(&item)) return TwinKind::DropDownList;
-    if (dynamic_cast<const CSkinStatic*>(&item)) return TwinKind::Label;
-    if (dynamic_cast<const CSkinButton*>(&item)) return TwinKind::PushButton;
-    return TwinKind::ColorField;
+TwinKind KindOf(LONG role) {
+    switch (role) {
+        case ROLE_SYSTEM_SLIDER:
+            return TwinKind::Slider;
+        case ROLE_SYSTEM_RADIOBUTTON:
+            return TwinKind::RadioButton;
+        case ROLE_SYSTEM_CHECKBUTTON:
+            return TwinKind::CheckBox;
+        case ROLE_SYSTEM_TEXT:
+            return TwinKind::Edit;
+        case ROLE_SYSTEM_COMBOBOX:
+            return TwinKind::DropDownList;
+        case ROLE_SYSTEM_STATICTEXT:
+            return TwinKind::Label;
+        case ROLE_SYSTEM_PUSHBUTTON:
+            return TwinKind::PushButton;
+        default:
+            return TwinKind::ColorField;
+    }
 }
 
-TwinControl TwinOf(CSkinControl& control) {
-    TwinControl twin{TwinKind::Slider, control.Bounds(), 99, true, false, {}};
-    if (const auto* item = dynamic_cast<CSkinItem*>(&control)) {
-        twin.kind = KindOf(*item);
-        twin.id = item->Id();
-        twin.enabled = item->IsEnabled();
-        const auto* edit = dynamic_cast<const CSkinEdit*>(item);
-        ::lstrcpynW(twin.text, edit ? edit->Text() : item->Text(), static_cast<int>(std::size(twin.text)));
-        const auto* box = dynamic_cast<const CSkinCheckBox*>(item);
-        twin.checked = box && box->IsChecked();
-    } else if (const auto* slider = dynamic_cast<CSkinSlider*>(&control)) {
-        twin.id = static_cast<UINT>(slider->GetDlgCtrlID());
-        twin.enabled = slider->IsWindowEnabled() != FALSE;
+TwinControl TwinOf(const CSkinControl& control) {
+    const ControlFacts facts = control.Facts();
+    TwinControl twin{KindOf(facts.role), control.Bounds(), 99, true, false, {}};
+    twin.enabled = (facts.state & STATE_SYSTEM_UNAVAILABLE) == 0;
+    twin.checked = (facts.state & STATE_SYSTEM_CHECKED) != 0;
+    if (twin.kind == TwinKind::Slider) {
+        twin.id = static_cast<UINT>(static_cast<const CSkinSlider&>(control).GetDlgCtrlID());
+        return twin;
     }
+    const auto& item = static_cast<const CSkinItem&>(control);
+    twin.id = item.Id();
+    ::lstrcpynW(twin.text, facts.value.IsEmpty() ? item.Text() : facts.value, static_cast<int>(std::size(twin.text)));
     return twin;
 }
 
@@ -94,9 +97,9 @@ Twin TwinOf(EffectId effect) {
 std::wstring NumberShownBy(HWND dialog) {
     bool afterSlider = false;
     for (const auto& entry : Opened::ControlsOf(*DialogOf(dialog))) {
-        const auto* label = dynamic_cast<const CSkinStatic*>(entry.control);
-        if (label && afterSlider) return std::wstring(label->Text());
-        afterSlider = dynamic_cast<const CSkinSlider*>(entry.control) != nullptr;
+        const ControlFacts facts = entry.control->Facts();
+        if (afterSlider && KindOf(facts.role) == TwinKind::Label) return std::wstring(facts.name);
+        afterSlider = KindOf(facts.role) == TwinKind::Slider;
     }
     return {};
 }

@@ -1,9 +1,11 @@
 // docs/effects.json and docs/effects.md, made from the dialogs' own controls and the records' header.
 // With EFFECT_SETTINGS_WRITE_PAGES in the environment they are written; without, the committed ones have to be the same.
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <initializer_list>
 #include <limits>
 #include <map>
 #include <regex>
@@ -111,7 +113,7 @@ public:
 
 private:
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-        auto* const dialog = dynamic_cast<CRecordDlg*>(CWnd::FromHandlePermanent(::GetActiveWindow()));
+        auto* const dialog = static_cast<CRecordDlg*>(CWnd::FromHandlePermanent(::GetActiveWindow()));
         if (!dialog || !s_look) return;
         s_look(*dialog);
         s_look = nullptr;
@@ -126,12 +128,28 @@ struct Reader : CSkinDialog {
     static const std::vector<Entry>& ControlsOf(const CSkinDialog& dialog) { return (dialog.*&Reader::Controls)(); }
 };
 
+bool HasRole(const CSkinControl* control, std::initializer_list<LONG> roles) {
+    return control && std::find(roles.begin(), roles.end(), control->Facts().role) != roles.end();
+}
+
+/// Null for a control of another class.
+const CSkinStatic* AsLabel(const CSkinControl* control) {
+    return HasRole(control, {ROLE_SYSTEM_STATICTEXT}) ? static_cast<const CSkinStatic*>(control) : nullptr;
+}
+CSkinCheckBox* AsBox(CSkinControl* control) {
+    const bool isBox = HasRole(control, {ROLE_SYSTEM_CHECKBUTTON, ROLE_SYSTEM_RADIOBUTTON});
+    return isBox ? static_cast<CSkinCheckBox*>(control) : nullptr;
+}
+const CSkinSlider* AsSlider(const CSkinControl* control) {
+    return HasRole(control, {ROLE_SYSTEM_SLIDER}) ? static_cast<const CSkinSlider*>(control) : nullptr;
+}
+
 /// What stands to the left of a control, or else was added just before it.
 std::string LabelOf(const CRecordDlg& dialog, const CSkinControl& control, const std::string& before) {
     const CRect bounds = control.Bounds();
     const CSkinStatic* nearest = nullptr;
     for (const auto& entry : Reader::ControlsOf(dialog)) {
-        const auto* const label = dynamic_cast<const CSkinStatic*>(entry.control);
+        const auto* const label = AsLabel(entry.control);
         if (!label || label->Text().IsEmpty()) continue;
         const CRect place = label->Bounds();
         if (std::abs(place.top - bounds.top) > 5 || place.right > bounds.left + 5 || bounds.left - place.right > 60)
@@ -146,18 +164,18 @@ std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, st
     std::map<const CSkinControl*, Control> controls;
     std::string label;
     for (const auto& [control, help] : Reader::ControlsOf(dialog)) {
-        const auto* const item = dynamic_cast<const CSkinItem*>(control);
-        if (dynamic_cast<const CSkinStatic*>(item)) {
-            label = Utf8(item->Text());
+        if (const auto* const text = AsLabel(control)) {
+            label = Utf8(text->Text());
             continue;
         }
         if (!help) continue;  // The frame's buttons.
         Control facts;
         facts.help = Utf8(help);
-        const auto* const window = dynamic_cast<const CWnd*>(control);
-        facts.id = item ? item->Id() : static_cast<UINT>(window->GetDlgCtrlID());
-        const bool isNamedByLabel = !item || dynamic_cast<const CSkinEdit*>(item) ||
-                                    dynamic_cast<const CVelComboListBox*>(item) || item->Text().IsEmpty();
+        const auto* const slider = AsSlider(control);
+        const auto* const item = slider ? nullptr : static_cast<const CSkinItem*>(control);
+        facts.id = item ? item->Id() : static_cast<UINT>(slider->GetDlgCtrlID());
+        const bool isNamedByLabel =
+            !item || HasRole(item, {ROLE_SYSTEM_TEXT, ROLE_SYSTEM_COMBOBOX}) || item->Text().IsEmpty();
         facts.label = isNamedByLabel ? LabelOf(dialog, *control, label) : Utf8(item->Text());
         controls[control] = facts;
         inOrder.push_back(facts);
@@ -173,13 +191,13 @@ void ReadChoices(const CRecordDlg& dialog, const std::map<const CSkinControl*, C
     binding.set(record.value);
     const int none = binding.get();
     for (const auto& entry : Reader::ControlsOf(dialog)) {
-        auto* const box = dynamic_cast<CSkinCheckBox*>(entry.control);
+        auto* const box = AsBox(entry.control);
         if (!box) continue;
         const bool wasChecked = box->IsChecked();
         box->SetChecked(true);
         if (binding.get() != none) {
             field.choices.push_back({binding.get(), controls.at(box)});
-            field.choicesAddUp = !dynamic_cast<CSkinRadioButton*>(box);
+            field.choicesAddUp = !HasRole(box, {ROLE_SYSTEM_RADIOBUTTON});
         }
         box->SetChecked(wasChecked);
     }
@@ -199,14 +217,14 @@ void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page
             ReadChoices(dialog, controls, {bound, binding}, field);
             EXPECT_FALSE(field.choices.empty()) << page.name << '.' << field.name << " has no control";
         }
-        if (dynamic_cast<CValueSlider*>(binding.control)) {
+        if (AsSlider(binding.control)) {
             field.hasRange = true;
             binding.set(std::numeric_limits<int>::min() / 2);
             field.min = binding.get();
             binding.set(std::numeric_limits<int>::max() / 2);
             field.max = binding.get();
             binding.set(bound.standard);
-        } else if (dynamic_cast<CSkinCheckBox*>(binding.control)) {
+        } else if (AsBox(binding.control)) {
             field.hasRange = true;
             field.max = 1;
         }
