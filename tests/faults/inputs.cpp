@@ -130,6 +130,8 @@ Shot AnyShot(const std::vector<HWND>& windows, std::mt19937& random) {
             // Not the answers: the dialog shall stay for the rest.
             shot.wParam = MAKEWPARAM(3 + random() % 120, random() % 3 ? 0 : AnyOf(kHostile, random));
             break;
+        case WM_TIMER:
+            break;  // Its number alone: an address beside it would be called.
         case WM_MOUSEWHEEL:
             shot.wParam = MAKEWPARAM(0, AnyOf(kHostile, random));
             shot.lParam = point();

@@ -60,7 +60,7 @@ struct Measure {
 void CheckSlopes(const char* what, int turns, const std::function<void()>& turn) {
     Try(what);
     Measure measures[] = {{"GDI objects", CountGdiObjects, 0},       {"windows", CountWindows, 0},
-                          {"heap blocks", CountHeapBlocks, 8},      {"handles", CountHandles, 0},
+                          {"heap blocks", CountHeapBlocks, 8},       {"handles", CountHandles, 0},
                           {"free TLS slots", CountFreeTlsSlots, 0},  {"module references", CountModuleReferences, 0},
                           {"COM references", CountOpenReferences, 0}};
     std::printf("  %d %-17s before  after  a turn\n", turns, what);

@@ -20,9 +20,10 @@ inline Lines ClosingCalls() {
             "active.FindByMoniker",       "active.RemoveAt(0)"};
 }
 
-/// Without the preview's start, which comes by a timer between whatever else happens.
+/// Comes by a timer, between whatever else happens.
+constexpr char kPreviewStart[] = "host.RefreshPreview()";
 inline Lines WithoutRefresh(Lines lines) {
-    std::erase(lines, "host.RefreshPreview()");
+    std::erase(lines, kPreviewStart);
     return lines;
 }
 
