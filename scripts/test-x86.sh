@@ -27,10 +27,10 @@ if [[ ! -f $x86_root/.ready ]]; then
         give_up "debootstrap made no system."
     }
 fi
-mkdir -p "$x86_root$root/build/x86/bin"
+mkdir -p "$x86_root$root"
 {
     mount -t proc proc "$x86_root/proc" && mount --bind /dev "$x86_root/dev" &&
-        mount --bind "$root/build/x86/bin" "$x86_root$root/build/x86/bin"
+        mount --bind "$root" "$x86_root$root"
 } || give_up "could not mount what they need."
 if [[ ! -f $x86_root/.ready ]]; then
     say "Making its Wine prefix"
