@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kPageSize = 4096;
 constexpr std::size_t kAlignment = 16;  // What new promises; an overrun within the rest of it goes unseen.
-constexpr std::size_t kChunkSize = std::size_t{1} << 32;
+constexpr std::size_t kChunkSize = std::size_t{1} << 28;
 
 SRWLOCK g_lock = SRWLOCK_INIT;
 std::uintptr_t g_next = 0;
