@@ -64,6 +64,7 @@ Record AtEnd(const Effect& effect, std::int32_t Field::*end) {
 
 void MeasureFilters() {
     std::vector<Frame> scene;
+    scene.reserve(kFrames);
     for (int number = 0; number < kFrames; ++number) scene.push_back(Scene(number));
     std::printf("ms for a frame of %d x %d (aim: at most %.0f)\n", kWidth, kHeight, kMostMs);
     std::printf("%-18s %10s %10s %10s\n", "median", "defaults", "smallest", "largest");

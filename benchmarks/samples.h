@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -26,7 +27,7 @@ public:
     double Quantile(double part) const {
         std::vector<double> sorted = m_values;
         std::sort(sorted.begin(), sorted.end());
-        return sorted[static_cast<std::size_t>(part * static_cast<double>(sorted.size() - 1) + 0.5)];
+        return sorted[static_cast<std::size_t>(std::lround(part * static_cast<double>(sorted.size() - 1)))];
     }
 
 private:

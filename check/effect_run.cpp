@@ -14,9 +14,8 @@ constexpr char kPush[] = "filter: all values";
 /// Closes the thread's dialog once its preview runs, as the close button does; waits no longer than for that.
 class Closer {
 public:
-    explicit Closer(const RecordingHost& host) : m_host(host) {
+    explicit Closer(const RecordingHost& host) : m_host(host), m_timer(SetTimer(nullptr, 0, 50, &Closer::OnTimer)) {
         s_current = this;
-        m_timer = SetTimer(nullptr, 0, 50, &Closer::OnTimer);
     }
     Closer(const Closer&) = delete;
     Closer& operator=(const Closer&) = delete;
@@ -59,12 +58,12 @@ void SetDefaults(EffectId effect, void* record) {
 }
 
 std::string FirstDifference(const Calls& expected, const Calls& came) {
-    for (std::size_t i = 0; i < (std::max)(expected.size(), came.size()); ++i) {
-        const std::string wanted = i < expected.size() ? expected[i] : "nothing more";
-        const std::string got = i < came.size() ? came[i] : "nothing more";
-        if (wanted != got) return "call " + std::to_string(i + 1) + " should be " + wanted + " and was " + got;
-    }
-    return {};
+    const auto call = [](const Calls& calls, std::size_t i) { return i < calls.size() ? calls[i] : "nothing more"; };
+    const std::size_t count = (std::max)(expected.size(), came.size());
+    std::size_t i = 0;
+    while (i < count && call(expected, i) == call(came, i)) ++i;
+    if (i == count) return {};
+    return "call " + std::to_string(i + 1) + " should be " + call(expected, i) + " and was " + call(came, i);
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ private:
         auto* item = reinterpret_cast<PropertyItem*>(buffer.data());
         if (m_picture->GetPropertyItem(PropertyTagFrameDelay, bytes, item) != Ok) return;
         const auto* hundredths = static_cast<const UINT*>(item->value);
-        const UINT known = item->length / sizeof(UINT);
+        const std::size_t known = item->length / sizeof(UINT);
         for (UINT index = 0; index < count; ++index) {
             // Files without a delay mean "as fast as is usual".
             const unsigned delay = index < known ? hundredths[index] * 10 : 0;

@@ -260,7 +260,7 @@ int Show(const Options& options, Session session) {
 
 /// The sound as the chorus makes it, until its echoes have died away.
 int Render(const Options& options, Session session) {
-    constexpr int kEchoSeconds = 2;
+    constexpr std::size_t kEchoSeconds = 2;
     Sound& sound = session.sound;
     sound.samples.resize(sound.samples.size() + 2 * kEchoSeconds * static_cast<std::size_t>(sound.samplesPerSecond));
     const ComPtr<IDemoFilter> filter = MakeFilter(options.effect->id, Trace);

@@ -38,7 +38,7 @@ void FillShape(Graphics& graphics, Color color, const std::vector<PointF>& point
 }
 
 /// A thick line with round ends.
-void DrawLimb(Graphics& graphics, Color color, float width, PointF from, PointF to) {
+void DrawLimb(Graphics& graphics, Color color, float width, const PointF& from, const PointF& to) {
     Pen pen(color, width);
     pen.SetLineCap(LineCapRound, LineCapRound, DashCapFlat);
     graphics.DrawLine(&pen, from, to);

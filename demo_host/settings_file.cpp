@@ -57,7 +57,7 @@ std::string ParseLine(std::string_view line, std::set<std::string>& seen, std::v
     const std::string name(Trim(line.substr(0, equals)));
     const std::string_view value = Trim(line.substr(equals + 1));
     Place place;
-    if (const std::string problem = Find(name, states, place); !problem.empty()) return problem;
+    if (std::string problem = Find(name, states, place); !problem.empty()) return problem;
     if (!seen.insert(name).second) return name + ": is there twice";
     const std::optional<std::int32_t> number = NumberIn(value, *place.field);
     if (!number) {

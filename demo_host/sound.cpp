@@ -94,7 +94,7 @@ std::optional<Sound> LoadWave(const std::wstring& file, std::string& problem) {
     constexpr std::uint16_t kExtensible = 0xFFFE;  // Tells the kind later, in the first bytes of a GUID.
     constexpr std::size_t kChunkHead = 8;
     Sound sound;
-    unsigned channels = 0;
+    std::size_t channels = 0;
     for (std::size_t at = 12; at + kChunkHead <= bytes->size();) {
         const std::size_t size = NumberAt<std::uint32_t>(*bytes, at + 4);
         const std::size_t start = at + kChunkHead;
@@ -110,8 +110,11 @@ std::optional<Sound> LoadWave(const std::wstring& file, std::string& problem) {
         } else if (bytes->compare(at, 4, "data") == 0 && channels != 0) {
             std::vector<std::int16_t> samples(present / (2 * channels) * channels);
             std::memcpy(samples.data(), bytes->data() + start, samples.size() * sizeof(std::int16_t));
-            if (channels == 2) sound.samples = std::move(samples);
-            for (const std::int16_t sample : samples) sound.samples.insert(sound.samples.end(), 2, sample);
+            if (channels == 2) {
+                sound.samples = std::move(samples);
+            } else {
+                for (const std::int16_t sample : samples) sound.samples.insert(sound.samples.end(), 2, sample);
+            }
             if (sound.samples.empty()) break;
             return sound;
         }

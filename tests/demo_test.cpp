@@ -164,7 +164,7 @@ TEST(DemoChorus, WithoutWetMixTheSoundIsTheDryOneExactly) {
 }
 
 TEST(DemoChorus, AnImpulseComesBackAfterTheDelay) {
-    Samples impulse(2 * 2000 * kPerMs);
+    Samples impulse(std::size_t{2} * 2000 * kPerMs);
     impulse[0] = impulse[1] = 20000;
     constexpr int kSwing = 4;  // The delay swings by 3 ms, which makes echoes up to 1.2 % longer or shorter.
     for (const int delay : {10, 50, 120, 500}) {

@@ -87,10 +87,7 @@ constexpr POINT kOnCombo{100, 110};
 constexpr int kRowHeight = 18;
 
 struct Combo {
-    explicit Combo(std::vector<LPCWSTR> rows, int top = 100) {
-        m_rows = std::move(rows);
-        m_top = top;
-    }
+    explicit Combo(std::vector<LPCWSTR> rows, int top = 100) : m_rows(std::move(rows)), m_top(top) {}
 
     CVelComboListBox combo;
     CKitDialog dialog{[this](CKitDialog& parent) {

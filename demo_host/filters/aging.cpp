@@ -120,7 +120,7 @@ private:
 
     static void PaintPit(const FrameView& frame, int x, int y, int radius, std::uint32_t color) {
         for (int dy = -radius; dy <= radius; ++dy) {
-            const int half = static_cast<int>(std::sqrt(static_cast<float>(radius * radius - dy * dy)) + 0.5F);
+            const int half = static_cast<int>(std::lround(std::sqrt(static_cast<float>(radius * radius - dy * dy))));
             ForEachPixel(
                 frame.Part({x - half, y + dy, x + half + 1, y + dy + 1}), [color](std::uint32_t) { return color; });
         }

@@ -280,7 +280,7 @@ class CAgingDlg : public CAreaDlg<EffectId::Aging> {
         // Here the area comes right after "Enable"; each of its edges that is filled pushes what else is set so far.
         m_enable.SetChecked(kDefaults.enabled != 0);
         SetDefaultArea();
-        CRecordDlg::SetDefaults();
+        CRecordDlg::SetDefaults();  // NOLINT(bugprone-parent-virtual-call): without the area.
     }
 
     static constexpr int kLeft = 20;

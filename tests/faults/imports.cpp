@@ -53,8 +53,8 @@ public:
     }
     template <typename Value>
     Code& AddValue(Value value) {
-        std::memcpy(m_at, &value, sizeof(value));
-        m_at += sizeof(value);
+        std::memcpy(m_at, &value, sizeof(Value));
+        m_at += sizeof(Value);
         return *this;
     }
 

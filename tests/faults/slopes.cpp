@@ -100,6 +100,7 @@ void LoadAgainAndAgain(const Settings& settings) {
     // The system's own libraries stay loaded: what they keep is not ours.
     for (const wchar_t* name : {L"comctl32", L"comdlg32", L"gdiplus", L"msimg32", L"oleacc", L"ole32", L"oleaut32",
                                 L"riched20", L"shlwapi"}) {
+        // cppcheck-suppress leakReturnValNotUsed
         ::LoadLibraryW(name);
     }
     wchar_t library[MAX_PATH] = {};

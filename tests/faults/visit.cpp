@@ -80,8 +80,8 @@ PageEndRecord::PageEndRecord(const Record& values)
     : m_pages(static_cast<unsigned char*>(::VirtualAlloc(nullptr, 2 * kPageSize, MEM_RESERVE, PAGE_NOACCESS))),
       m_values(nullptr),
       m_count(values.size()) {
-    ::VirtualAlloc(m_pages, kPageSize, MEM_COMMIT, PAGE_READWRITE);
-    m_values = reinterpret_cast<std::int32_t*>(m_pages + kPageSize) - m_count;
+    void* page = ::VirtualAlloc(m_pages, kPageSize, MEM_COMMIT, PAGE_READWRITE);
+    m_values = reinterpret_cast<std::int32_t*>(static_cast<unsigned char*>(page) + kPageSize) - m_count;
     std::copy(values.begin(), values.end(), m_values);
 }
 

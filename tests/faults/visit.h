@@ -62,7 +62,7 @@ struct Visit {
     std::vector<Action> actions = UsualActions();
     SIZE video{720, 480};
     SIZE frame{360, 240};
-    decltype(&ShowSettingsDialog) show = &ShowSettingsDialog;
+    decltype(&ShowSettingsDialog) show = ShowSettingsDialog;
     bool hasHost = true;
     HostOptions options{};
     /// Called by host, lists and filter before they do anything, with the number of the call from 0.

@@ -38,7 +38,7 @@ void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) { EnumThreadWindows(GetCurren
 }  // namespace
 
 int main() {
-    Gamma filter;
+    static Gamma filter;
     g_filter = &filter;
     PreviewHost player(filter);
     SetTimer(nullptr, 0, 20, &OnTimer);

@@ -67,7 +67,7 @@ private:
     std::wstring Text(HRESULT (STDMETHODCALLTYPE IAccessible::*get)(VARIANT, BSTR*), long child) const {
         BSTR text = nullptr;
         (m_object.Get()->*get)(Child(child), &text);
-        const std::wstring result(text ? text : L"");
+        std::wstring result(text ? text : L"");
         ::SysFreeString(text);
         return result;
     }

@@ -95,7 +95,7 @@ private:
     static HRESULT STDMETHODCALLTYPE Fail(void*) { return E_FAIL; }
 
     RecordingHost& m_host;
-    void* m_failingTable[100];
+    void* m_failingTable[100] = {};
 };
 
 RecordingHost::RecordingHost(EffectId effect, HostOptions options)

@@ -15,7 +15,7 @@ public:
     /// Asked before each call does anything; may do whatever a host might, and throw.
     std::function<Reply(const std::string& line)> onCall;
 
-    Reply Add(std::string line) {
+    Reply Add(const std::string& line) {
         {
             const std::lock_guard lock(m_mutex);
             m_lines.push_back(line);
