@@ -67,7 +67,16 @@ HRESULT GiveNumber(LONG number, VARIANT* result) {
 
 }  // namespace
 
+/// Shared by the dialog and its objects; the last of them deletes it.
 struct CAccessibility::Link {
+    ULONG AddRef() { return static_cast<ULONG>(::InterlockedIncrement(&references)); }
+    ULONG Release() {
+        const LONG left = ::InterlockedDecrement(&references);
+        if (left == 0) delete this;
+        return static_cast<ULONG>(left);
+    }
+
+    LONG references = 0;
     CSkinDialog* dialog;  ///< Null once the dialog is gone.
     DWORD thread = ::GetCurrentThreadId();
     std::vector<CElement*> elements;
@@ -76,9 +85,7 @@ struct CAccessibility::Link {
 /// The dialog (child 0), whose children are known by their numbers, or one control.
 class CAccessibility::CElement final : public IAccessible {
 public:
-    CElement(std::shared_ptr<Link> link, LONG child) : m_link(std::move(link)), m_child(child) {
-        m_link->elements.push_back(this);
-    }
+    CElement(Link* link, LONG child) : m_link(link), m_child(child) { m_link->elements.push_back(this); }
     CElement(const CElement&) = delete;
     CElement& operator=(const CElement&) = delete;
 
@@ -112,7 +119,7 @@ public:
         *parent = nullptr;
         return Answer([&](CSkinDialog& dialog) -> HRESULT {
             if (m_child != CHILDID_SELF) {
-                *parent = new CElement(m_link, CHILDID_SELF);
+                *parent = new CElement(m_link.Get(), CHILDID_SELF);
                 return S_OK;
             }
             const auto fromWindow =
@@ -316,19 +323,19 @@ private:
             [&](CSkinDialog& dialog) { return GiveNumber(ofDialog(dialog), number); });
     }
 
-    const std::shared_ptr<Link> m_link;
+    const Microsoft::WRL::ComPtr<Link> m_link;
     const LONG m_child;
     LONG m_references = 1;
 };
 
-CAccessibility::CAccessibility(CSkinDialog& dialog) : m_link(std::make_shared<Link>()) { m_link->dialog = &dialog; }
+CAccessibility::CAccessibility(CSkinDialog& dialog) : m_link(new Link) { m_link->dialog = &dialog; }
 
 CAccessibility::~CAccessibility() { Disconnect(); }
 
 LRESULT CAccessibility::ObjectFor(LONG child, WPARAM wParam) {
     const auto lresultFromObject = AccessibilityLibrary().Find<decltype(&::LresultFromObject)>("LresultFromObject");
     if (!lresultFromObject || !m_link->dialog) return 0;
-    auto* element = new CElement(m_link, child);
+    auto* element = new CElement(m_link.Get(), child);
     const LRESULT result = lresultFromObject(__uuidof(IAccessible), wParam, element);
     element->Release();
     return result;

@@ -1,11 +1,10 @@
 // A skinned dialog and its controls as screen readers see them (IAccessible).
 #pragma once
 
-#include <memory>
-
 #include <afxwin.h>
 
 #include <oleacc.h>
+#include <wrl/client.h>
 
 class CSkinDialog;
 
@@ -27,5 +26,5 @@ private:
     class CElement;
     struct Link;
 
-    std::shared_ptr<Link> m_link;
+    Microsoft::WRL::ComPtr<Link> m_link;
 };

@@ -38,6 +38,15 @@ wchar_t LetterOf(const CSkinControl& control) {
     return captioned ? Upper(facts.name[0]) : L'\0';
 }
 
+/// Keeps the order of equals. They are few.
+template <typename Iterator, typename Key>
+void SortBy(Iterator begin, Iterator end, Key key) {
+    const auto isLess = [&](auto* a, auto* b) { return key(a) < key(b); };
+    for (Iterator next = begin; next != end; ++next) {
+        std::rotate(std::upper_bound(begin, next, *next, isLess), next, next + 1);
+    }
+}
+
 }  // namespace
 
 bool CFocusRing::Translate(const MSG& message) {
@@ -155,10 +164,10 @@ CFocusRing::Stops CFocusRing::InScreenOrder() const {
     }
     const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
     const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
-    std::stable_sort(stops.begin(), stops.end(), [&](auto* a, auto* b) { return top(a) < top(b); });
+    SortBy(stops.begin(), stops.end(), top);
     for (auto row = stops.begin(); row != stops.end();) {
         const auto next = std::find_if(row, stops.end(), [&](auto* stop) { return top(stop) >= top(*row) + kSameRow; });
-        std::stable_sort(row, next, [&](auto* a, auto* b) { return left(a) < left(b); });
+        SortBy(row, next, left);
         row = next;
     }
     return stops;

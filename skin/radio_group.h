@@ -1,7 +1,7 @@
 // Radio buttons of which one is selected; each stands for a number.
 #pragma once
 
-#include <deque>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -42,5 +42,5 @@ private:
         const int m_value;
     };
 
-    std::deque<CButton> m_buttons;  // Buttons stay where they are: the dialog's list points at them.
+    std::vector<std::unique_ptr<CButton>> m_buttons;
 };

@@ -29,9 +29,12 @@ BEGIN_MESSAGE_MAP(CEffectSettingsDlg, CSkinDialog)
     ON_MESSAGE(WM_SKIN_COMBO_SELECT, OnComboSelect)
 END_MESSAGE_MAP()
 
-CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass,
+CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass, const IID& propertyInterface,
                                        const EffectDialogOptions& options)
-    : m_info(info), m_options(options), m_moniker(MonikerOf(filterClass, info.chain)) {}
+    : m_info(info),
+      m_propertyInterface(propertyInterface),
+      m_options(options),
+      m_moniker(MonikerOf(filterClass, info.chain)) {}
 
 bool CEffectSettingsDlg::CreateStandardControls() {
     const LPCWSTR blackPanel = AfxRegisterWndClass(
@@ -83,8 +86,13 @@ bool CEffectSettingsDlg::AttachFilter() {
     OpenPreview(&m_opening, m_info.chain, m_preview.GetSafeHwnd());
     const auto attach = m_info.chain == ChainKind::Video ? AttachVideoProcessor : AttachAudioProcessor;
     if (!attach(&m_opening, m_moniker.Get())) return false;
-    if (const ComPtr<IUnknown> processor = AttachedProcessor(&m_opening, m_info.chain)) ConnectFilter(*processor.Get());
-    if (!m_opening) ReleaseFilter();
+    if (const ComPtr<IUnknown> processor = AttachedProcessor(&m_opening, m_info.chain)) {
+        void* filter = nullptr;
+        if (SUCCEEDED(processor->QueryInterface(m_propertyInterface, &filter))) {
+            *m_filter.ReleaseAndGetAddressOf() = static_cast<IUnknown*>(filter);
+        }
+    }
+    if (!m_opening) m_filter.Reset();
     return true;
 }
 
@@ -95,7 +103,7 @@ void CEffectSettingsDlg::DetachFilter() {
         const auto detach = m_info.chain == ChainKind::Video ? DetachVideoProcessor : DetachAudioProcessor;
         detach(&host, m_moniker.Get());
     }
-    ReleaseFilter();
+    m_filter.Reset();
 }
 
 void CEffectSettingsDlg::OnDestroy() {

@@ -28,7 +28,9 @@ struct EffectDialogOptions {
 
 class CEffectSettingsDlg : public CSkinDialog {
 protected:
-    CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass, const EffectDialogOptions& options);
+    /// @param propertyInterface  What the filter is asked for; a static object.
+    CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass, const IID& propertyInterface,
+                       const EffectDialogOptions& options);
 
     // What a dialog states of its own: CreateControls and LayoutControls, then these.
 
@@ -41,8 +43,8 @@ protected:
     virtual void OnClicked(UINT /*id*/) { ApplyToFilter(); }  ///< One of the effect's own boxes and buttons.
     virtual void OnPicked(const void* /*list*/) {}            ///< A row of a drop-down list.
 
-    virtual void ConnectFilter(IUnknown& processor) = 0;
-    virtual void ReleaseFilter() = 0;
+    /// The filter's property interface; null until attached, without a host, and once the window is gone.
+    const ComPtr<IUnknown>& PropertyInterface() const { return m_filter; }
 
     /// Binds the clicks of a control to OnClicked, or the changes of an edit (EN_CHANGE) to a push. Commands of all
     /// other controls do nothing.
@@ -90,8 +92,10 @@ private:
     void ShowHelp(LPCWSTR help);
 
     const EffectInfo& m_info;
+    const IID& m_propertyInterface;
     const EffectDialogOptions m_options;
-    const CBstr m_moniker;            // Made at construction: closing must not need memory.
+    const CBstr m_moniker;  // Made at construction: closing must not need memory.
+    ComPtr<IUnknown> m_filter;
     IMediaHost* m_opening = nullptr;  // The host while the dialog opens; null again once its window is gone.
     CWnd m_preview;
     CSkinButton m_defaultButton;

@@ -39,7 +39,8 @@ protected:
     using SettingsField = std::int32_t Settings::*;
 
     explicit CEffectDlg(const EffectDialogOptions& options = {})
-        : CRecordDlg(EffectTraits<Id>::kInfo, EffectTraits<Id>::kFilterClass, options),
+        : CRecordDlg(
+              EffectTraits<Id>::kInfo, EffectTraits<Id>::kFilterClass, EffectTraits<Id>::kPropertyInterface, options),
           m_settings(static_cast<Settings*>(g_Settings)) {}
 
     // What a dialog creates its controls with; each stands for a field.
@@ -63,22 +64,14 @@ protected:
     }
     void Bind(SettingsField field, const Binding& binding) { CRecordDlg::Bind(Of(field), binding); }
 
-    void ConnectFilter(IUnknown& processor) override {
-        void* filter = nullptr;
-        if (SUCCEEDED(processor.QueryInterface(EffectTraits<Id>::kPropertyInterface, &filter))) {
-            *m_filter.ReleaseAndGetAddressOf() = static_cast<Filter*>(filter);
-        }
-    }
-    void ReleaseFilter() override { m_filter.Reset(); }
-
     /// One call of a push. It does nothing without a filter: before the attach, and once the window is gone, which may
     /// happen inside any of these calls. A filter that throws counts as one that fails: neither is looked at.
     template <typename Interface, typename Parameter>
     void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(Parameter), std::type_identity_t<Parameter> value) {
-        const ComPtr<Filter> filter = m_filter;
+        const ComPtr<IUnknown> filter = PropertyInterface();
         if (!filter) return;
         try {
-            (static_cast<Interface*>(filter.Get())->*setter)(value);
+            (static_cast<Interface*>(static_cast<Filter*>(filter.Get()))->*setter)(value);
         } catch (...) {
         }
     }
@@ -99,6 +92,4 @@ protected:
 
 private:
     Field Of(SettingsField field) const { return {m_settings->*field, kDefaults.*field}; }
-
-    ComPtr<Filter> m_filter;  // Null until attached, without a host, and once the window is gone.
 };
