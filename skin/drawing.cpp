@@ -69,13 +69,15 @@ CMemoryDC::~CMemoryDC() {
 
 CBufferedPaint::CBufferedPaint(HDC target, const CRect& rect)
     : m_target(target), m_rect(rect), m_screen(TakeOffScreen(rect.Size())) {
-    if (m_screen) ::IntersectClipRect(m_screen->Dc(), 0, 0, rect.Width(), rect.Height());
+    if (!m_screen) return;
+    // Whatever the paint before has left.
+    ::SelectClipRgn(m_screen->Dc(), nullptr);
+    ::IntersectClipRect(m_screen->Dc(), 0, 0, rect.Width(), rect.Height());
 }
 
 CBufferedPaint::~CBufferedPaint() {
     if (!m_screen) return;
     CopyPicture(m_target, m_rect, m_screen->Dc(), CPoint(0, 0));
-    ::SelectClipRgn(m_screen->Dc(), nullptr);
     KeepOffScreen(std::move(m_screen));
 }
 

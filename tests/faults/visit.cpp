@@ -133,6 +133,7 @@ HWND OwnerWindow() { return g_owner; }
 
 Outcome Visit::Run() const {
     MakeOwner();
+    ::SetCursorPos(0, 0);  // In the middle of the screen, where it begins, a control would be under it.
     const int windows = CountWindows();
     Outcome outcome;
     const PageEndRecord memory(record);
