@@ -44,8 +44,8 @@ void MeasureLoading(Report& report) {
 }
 
 void MeasureOpenings(Report& report) {
-    Samples first;
-    Samples tenth;
+    Samples first[2];
+    Samples tenth[2];
     double worst = 0;
     std::string detail;
     for (const EffectId effect : {EffectId::GammaCorrection, EffectId::Aging}) {
@@ -59,8 +59,10 @@ void MeasureOpenings(Report& report) {
             const auto stockNumbers = RunHelper(L"twin " + Quoted(L"bench_twin.bin"));
             if (ownNumbers.size() != 3 || stockNumbers.size() != 3) continue;
             if (effect == EffectId::GammaCorrection) {
-                first.Add(ownNumbers[0]);
-                tenth.Add(ownNumbers[1]);
+                first[0].Add(ownNumbers[0]);
+                tenth[0].Add(ownNumbers[1]);
+                first[1].Add(stockNumbers[0]);
+                tenth[1].Add(stockNumbers[1]);
             }
             own.Add(ownNumbers[2]);
             stock.Add(stockNumbers[2]);
@@ -70,7 +72,11 @@ void MeasureOpenings(Report& report) {
         worst = (std::max)(worst, ratio);
         detail += Text("%s%.1f MB against %.1f MB", detail.empty() ? "" : ", Aging ", own.Best(), stock.Best());
     }
-    report.AddRatio("first opening in a process / tenth", first, tenth, kFirstLimit);
+    report.Add({.what = "first opening in a process / tenth",
+                .value = first[0].Best() / tenth[0].Best(),
+                .limit = kFirstLimit,
+                .detail = Text("%.1f ms and %.1f ms; the twin's %.1f ms and %.1f ms", first[0].Best(), tenth[0].Best(),
+                               first[1].Best(), tenth[1].Best())});
     report.Add({.what = "peak memory after ten openings / twin",
                 .value = worst,
                 .limit = kMemoryLimit,
@@ -96,7 +102,6 @@ void MeasureSize(Report& report) {
         }
         report.Add({.what = Text("library in KB, %ls", architecture),
                     .value = static_cast<double>(size) / 1024,
-                    .limit = kSizeLimit,
-                    .exact = true});
+                    .limit = kSizeLimit});
     }
 }
