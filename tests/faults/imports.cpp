@@ -53,8 +53,9 @@ public:
     }
     template <typename Value>
     Code& AddValue(Value value) {
-        std::memcpy(m_at, &value, sizeof(Value));
-        m_at += sizeof(Value);
+        constexpr std::size_t size = sizeof(Value);  // NOLINT(bugprone-sizeof-expression): a pointer is meant.
+        std::memcpy(m_at, &value, size);
+        m_at += size;
         return *this;
     }
 
