@@ -89,9 +89,11 @@ std::wstring LibraryPath() {
 }
 
 FARPROC HostFactory(HMODULE library) {
-    // 32-bit compilers decorate the name unless told otherwise.
-    const FARPROC factory = GetProcAddress(library, "CreateEffectSettingsHost");
-    return factory ? factory : GetProcAddress(library, "_CreateEffectSettingsHost@0");
+    // With 32 bits compilers decorate the name, Visual C++ and GCC each in its own way.
+    for (const char* name : {"CreateEffectSettingsHost", "_CreateEffectSettingsHost@0", "CreateEffectSettingsHost@0"}) {
+        if (const FARPROC factory = GetProcAddress(library, name)) return factory;
+    }
+    return nullptr;
 }
 
 template <typename Function>
