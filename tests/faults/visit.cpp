@@ -23,7 +23,7 @@ struct Hands {
     const std::vector<Action>& actions;
     std::size_t done = 0;
     int ticks = 0;
-    int unseen = 0;  ///< Ticks without a visible dialog.
+    int unseen = 0;  ///< Ticks in a row without a visible dialog.
 };
 thread_local Hands* g_hands = nullptr;
 
@@ -44,7 +44,8 @@ void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
     HWND dialog = nullptr;
     ::EnumThreadWindows(::GetCurrentThreadId(), IsUsableDialog, reinterpret_cast<LPARAM>(&dialog));
     Hands& hands = *g_hands;
-    if (!dialog) ++hands.unseen;
+    // A box that was answered stays, hidden, until those that came up after it are gone.
+    hands.unseen = dialog && ::IsWindowVisible(dialog) ? 0 : hands.unseen + 1;
     if (!dialog) return;
     if (++hands.ticks > kMaxTicks) {
         Check(false, "does not close");
