@@ -111,7 +111,10 @@ int RunOneEffect(const Arguments& arguments) {
     Findings findings;
     if (!show) findings = {{false, "library", "ShowSettingsDialog cannot be called"}};
     if (!arguments.host.empty()) {
-        const HMODULE hostLibrary = LoadLibraryW(arguments.host.c_str());
+        // Until the process ends.
+        // cppcheck-suppress leakReturnValNotUsed
+        LoadLibraryW(arguments.host.c_str());
+        const HMODULE hostLibrary = GetModuleHandleW(arguments.host.c_str());
         createHost = As<CreateHostFunction>(hostLibrary ? HostFactory(hostLibrary) : nullptr);
         if (!createHost)
             findings = {{false, "host", hostLibrary ? "exports no CreateEffectSettingsHost" : "cannot be loaded"}};

@@ -12,9 +12,10 @@ struct CloseFile {
 using FileHandle = std::unique_ptr<void, CloseFile>;
 
 FileHandle OpenFileFor(const std::wstring& name, DWORD access, DWORD creation) {
-    const HANDLE file =
-        ::CreateFileW(name.c_str(), access, FILE_SHARE_READ, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return FileHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
+    FileHandle file(
+        ::CreateFileW(name.c_str(), access, FILE_SHARE_READ, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (file.get() == INVALID_HANDLE_VALUE) static_cast<void>(file.release());
+    return file;
 }
 
 bool WriteAll(const std::wstring& name, const std::string& contents) {
