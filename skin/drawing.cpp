@@ -17,6 +17,8 @@ void Note(bool drawn) {
     if (!drawn) ++g_failedDrawings;
 }
 
+void Note(Gdiplus::Status status) { Note(status == Gdiplus::Ok); }
+
 // The area of a whole surface.
 const CRect kWhole(0, 0, 0x7fff, 0x7fff);
 
@@ -27,7 +29,10 @@ Gdiplus::RectF Exactly(const CRect& rect) {
 
 class CTextFormat {
 public:
-    explicit CTextFormat(TextLayout layout) { SetUp(layout); }
+    explicit CTextFormat(TextLayout layout) {
+        SetUp(layout);
+        Note(m_format.GetLastStatus());
+    }
     operator const Gdiplus::StringFormat*() const { return &m_format; }
 
 private:
@@ -160,7 +165,8 @@ void DrawCutCornerOutline(HDC dc, CSize size, COLORREF color) {
             {1, 0},      {right - 1, 0},  {right, 1}, {right, bottom - 1}, {right - 1, bottom},
             {1, bottom}, {0, bottom - 1}, {0, 1}};
         const Gdiplus::Pen pen(Ink(color), 1.0F);
-        graphics.DrawPolygon(&pen, corners, static_cast<INT>(std::size(corners)));
+        Note(pen.GetLastStatus());
+        Note(graphics.DrawPolygon(&pen, corners, static_cast<INT>(std::size(corners))));
     });
 }
 
@@ -174,7 +180,7 @@ void FillTriangle(HDC dc, const Gdiplus::Point (&corners)[3], COLORREF color) {
     }
     DrawKept(dc, kWhole, key, [&](Gdiplus::Graphics& graphics) {
         const Gdiplus::SolidBrush brush(Ink(color));
-        graphics.FillPolygon(&brush, corners, 3);
+        Note(graphics.FillPolygon(&brush, corners, 3));
     });
 }
 
@@ -184,10 +190,10 @@ void FillCircle(HDC dc, int x, int y, int diameter, COLORREF color) {
     DrawKept(dc, kWhole, key, [&](Gdiplus::Graphics& graphics) {
         // Flattened finely: where curves are drawn coarsely, as under Wine, a small ellipse gets bumps and gaps.
         Gdiplus::GraphicsPath circle;
-        circle.AddEllipse(x, y, diameter, diameter);
-        circle.Flatten(nullptr, 0.01F);
+        Note(circle.AddEllipse(x, y, diameter, diameter));
+        Note(circle.Flatten(nullptr, 0.01F));
         const Gdiplus::SolidBrush brush(OpaqueColor(color));
-        graphics.FillPath(&brush, &circle);
+        Note(graphics.FillPath(&brush, &circle));
     });
 }
 
@@ -197,7 +203,7 @@ CTextGraphics::CTextGraphics(HDC dc) : Gdiplus::Graphics(dc) {
     SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
 }
 
-CTextGraphics::~CTextGraphics() { Note(GetLastStatus() == Gdiplus::Ok); }
+CTextGraphics::~CTextGraphics() { Note(GetLastStatus()); }
 
 void DrawTextIn(HDC dc, const CString& text, const Gdiplus::Font* font, const CRect& rect, TextLayout layout,
                 const Gdiplus::Color& color) {
@@ -206,7 +212,7 @@ void DrawTextIn(HDC dc, const CString& text, const Gdiplus::Font* font, const CR
                static_cast<int>(rect.left), static_cast<int>(rect.top), rect.Width(), rect.Height());
     DrawKept(dc, kWhole, key + text, [&](Gdiplus::Graphics& graphics) {
         const Gdiplus::SolidBrush brush(color);
-        graphics.DrawString(text, text.GetLength(), font, Exactly(rect), CTextFormat(layout), &brush);
+        Note(graphics.DrawString(text, text.GetLength(), font, Exactly(rect), CTextFormat(layout), &brush));
     });
 }
 
@@ -219,8 +225,8 @@ void DrawCaption(HDC dc, CSize size, const CString& text, const Gdiplus::Font* f
         const int top = TruncateToInt((static_cast<double>(size.cy) - measured.Height) * 0.5 + 1.0);
         const auto drawAt = [&](int x, int y, COLORREF ink) {
             const Gdiplus::SolidBrush brush(OpaqueColor(ink));
-            graphics.DrawString(
-                text, text.GetLength(), font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)), &brush);
+            Note(graphics.DrawString(
+                text, text.GetLength(), font, Gdiplus::PointF(static_cast<float>(x), static_cast<float>(y)), &brush));
         };
         for (const POINT offset : {POINT{-1, 0}, POINT{1, 0}, POINT{0, -1}, POINT{0, 1}}) {
             drawAt(left + offset.x, top + offset.y, GroundColor(halo));
@@ -235,17 +241,17 @@ void DrawTitleText(HDC dc, const CString& text, const CRect& rect, const Gdiplus
     key.Format(L"title %x ", color.GetValue());
     DrawKept(dc, rect, key + text, [&](Gdiplus::Graphics& graphics) {
         Gdiplus::GraphicsPath path;
-        path.AddString(
+        Note(path.AddString(
             text, text.GetLength(), FontFamilyFor(L"Arial"), Gdiplus::FontStyleBold | Gdiplus::FontStyleItalic, kEm,
-            Exactly(rect), CTextFormat(TextLayout::Title));
+            Exactly(rect), CTextFormat(TextLayout::Title)));
         const Gdiplus::SolidBrush brush(color);
-        graphics.FillPath(&brush, &path);
+        Note(graphics.FillPath(&brush, &path));
     });
 }
 
 Gdiplus::SizeF MeasureText(const Gdiplus::Graphics& graphics, const CString& text, const Gdiplus::Font* font,
                            TextLayout layout) {
     Gdiplus::RectF bounds;
-    graphics.MeasureString(text, text.GetLength(), font, Gdiplus::PointF(0, 0), CTextFormat(layout), &bounds);
+    Note(graphics.MeasureString(text, text.GetLength(), font, Gdiplus::PointF(0, 0), CTextFormat(layout), &bounds));
     return {bounds.Width, bounds.Height};
 }

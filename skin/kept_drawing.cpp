@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::size_t kMostPixels = 1 << 18;  // 1 MB.
+constexpr std::size_t kMostPixels = 1 << 20;  // 4 MB; all dialogs as they open need more than one.
 
 using Pixels = std::vector<DWORD>;
 
