@@ -27,26 +27,35 @@ struct Hands {
 };
 thread_local Hands* g_hands = nullptr;
 
-// A dialog that has no sign of life left, because showing it failed, is closed after so many ticks.
+// Dialogs that show no sign of life, because showing them failed or a message hid them, are closed after so many ticks.
 constexpr int kPatience = 100;
 
-BOOL CALLBACK IsUsableDialog(HWND window, LPARAM found) {
+BOOL CALLBACK AddDialog(HWND window, LPARAM dialogs) {
     wchar_t name[16] = {};
     ::GetClassNameW(window, name, 16);
-    if (std::wstring(name) != L"#32770" || !::IsWindowEnabled(window)) return TRUE;
-    if (!::IsWindowVisible(window) && g_hands->unseen < kPatience) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
+    if (std::wstring(name) == L"#32770" && ::IsWindowEnabled(window)) {
+        reinterpret_cast<std::vector<HWND>*>(dialogs)->push_back(window);
+    }
+    return TRUE;
+}
+
+void Close(HWND dialog) {
+    // What hears nothing else: an edit's menu, and the dragging of a window.
+    ::EndMenu();
+    ::PostMessageW(dialog, WM_LBUTTONUP, 0, 0);
+    ::PostMessageW(dialog, WM_CLOSE, 0, 0);
 }
 
 void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
     if (!g_hands) return;
-    HWND dialog = nullptr;
-    ::EnumThreadWindows(::GetCurrentThreadId(), IsUsableDialog, reinterpret_cast<LPARAM>(&dialog));
     Hands& hands = *g_hands;
+    std::vector<HWND> dialogs;
+    ::EnumThreadWindows(::GetCurrentThreadId(), AddDialog, reinterpret_cast<LPARAM>(&dialogs));
+    const auto seen = std::find_if(dialogs.begin(), dialogs.end(), ::IsWindowVisible);
     // A box that was answered stays, hidden, until those that came up after it are gone.
-    hands.unseen = dialog && ::IsWindowVisible(dialog) ? 0 : hands.unseen + 1;
-    if (!dialog) return;
+    hands.unseen = seen != dialogs.end() ? 0 : hands.unseen + 1;
+    if (dialogs.empty() || (hands.unseen && hands.unseen <= kPatience)) return;
+    const HWND dialog = hands.unseen ? dialogs.front() : *seen;
     if (++hands.ticks > kMaxTicks) {
         Check(false, "does not close");
         ::DestroyWindow(dialog);
@@ -54,11 +63,11 @@ void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
         PressOk(dialog);  // A message box: that is its text.
     } else if (hands.done < hands.actions.size()) {
         hands.actions[hands.done++](dialog);
+    } else if (hands.unseen) {
+        // Which of the hidden ones came up last is not to be seen; the others wait for it.
+        std::for_each(dialogs.begin(), dialogs.end(), Close);
     } else {
-        // What hears nothing else: an edit's menu, and the dragging of a window.
-        ::EndMenu();
-        ::PostMessageW(dialog, WM_LBUTTONUP, 0, 0);
-        ::PostMessageW(dialog, WM_CLOSE, 0, 0);
+        Close(dialog);
     }
 }
 
