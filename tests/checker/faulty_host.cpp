@@ -64,8 +64,7 @@ public:
     using PreviewHost::PreviewHost;
 
     HRESULT STDMETHODCALLTYPE RefreshPreview() override {
-        // cppcheck-suppress nullPointer
-        if (Has("crash")) *static_cast<volatile int*>(nullptr) = 0;
+        if (Has("crash")) ::RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr);
         if (Has("hang in a dialog")) Sleep(INFINITE);
         return PreviewHost::RefreshPreview();
     }
