@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "cases.h"
+#include "support/expected_calls.h"
 #include "visit.h"
 
 namespace {
@@ -155,17 +156,23 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
     Try("a usual visit");
     Visit visit = UsualVisit(effect);
     Lines calls;
-    visit.onCall = [&](RecordingHost&, int, const std::string& line) {
-        calls.push_back(line);
+    bool isPreviewed = false;
+    visit.onCall = [&](RecordingHost&, int number, const std::string& line) {
+        if (number == kPreviewCall) {
+            isPreviewed = true;
+        } else {
+            calls.push_back(line);
+        }
         return Reply::Normal;
     };
     const Outcome usual = visit.Run();
-    Check(usual.result == kSettingsAccepted && usual.openReferences == 0 && usual.activeCount == 0, "is not usual");
+    Check(usual.result == kSettingsAccepted && usual.openReferences == 0 && usual.activeCount == 0 && isPreviewed,
+          "is not usual");
 
     const std::size_t stride = settings.isLong ? 1 : effect.effect == EffectId::GammaCorrection ? 5 : 61;
     std::size_t turn = static_cast<std::size_t>(effect.effect) * 7 + settings.seed;
-    for (int at = 0; at < static_cast<int>(calls.size()); ++at) {
-        const std::string& call = calls[static_cast<std::size_t>(at)];
+    for (int at = kPreviewCall; at < static_cast<int>(calls.size()); ++at) {
+        const std::string call = at == kPreviewCall ? kPreviewStart : calls[static_cast<std::size_t>(at)];
         for (const Fault& fault : kFaults) {
             if ((fault.onlySetters && !IsSetter(call)) || turn++ % stride) continue;
             if (!kExceptionsCrossModules && fault.happen == &Throw) continue;

@@ -14,6 +14,7 @@ namespace {
 constexpr UINT kTickMs = 1;  // The system makes it its shortest.
 constexpr int kMaxTicks = 500;
 constexpr std::size_t kPageSize = 4096;
+constexpr UINT_PTR kPreviewTimer = 1;  // The dialogs' own.
 
 thread_local HWND g_owner = nullptr;
 HWND g_lastDialog = nullptr;
@@ -105,11 +106,12 @@ void ClickSetAsDefault(HWND dialog) {
     Click(dialog, 60, client.bottom - 19);
 }
 
+void StartPreview(HWND dialog) { ::SendMessageW(dialog, WM_TIMER, kPreviewTimer, 0); }
 void PressOk(HWND dialog) { ::PostMessageW(dialog, WM_COMMAND, IDOK, 0); }
 void PressCancel(HWND dialog) { ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); }
 
 std::vector<Action> UsualActions() {
-    return {ClickEnable, [](HWND) {}, ClickSetAsDefault, [](HWND) {}, PressOk};
+    return {StartPreview, ClickEnable, [](HWND) {}, ClickSetAsDefault, [](HWND) {}, PressOk};
 }
 
 unsigned PictureOf(HWND dialog) {
@@ -150,9 +152,9 @@ Outcome Visit::Run() const {
     RecordingHost host(effect, options);
     int call = 0;
     if (onCall) {
-        // The preview's start, which comes by a timer, has no number: slow openings would have other numbers than fast ones.
+        // The preview's start, which may come by its timer, is not counted: slow openings would have other numbers.
         host.Calls().onCall = [&](const std::string& line) {
-            return line == kPreviewStart ? Reply::Normal : onCall(host, call++, line);
+            return onCall(host, line == kPreviewStart ? kPreviewCall : call++, line);
         };
     }
     IMediaHost* pointer = hasHost ? &host : nullptr;

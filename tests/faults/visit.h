@@ -41,10 +41,15 @@ using Action = std::function<void(HWND dialog)>;
 
 void ClickEnable(HWND dialog);
 void ClickSetAsDefault(HWND dialog);
+/// As the dialog's timer does after a while.
+void StartPreview(HWND dialog);
 void PressOk(HWND dialog);
 void PressCancel(HWND dialog);
-/// A change, "Set as default" and OK.
+/// The preview's start, a change, "Set as default" and OK.
 std::vector<Action> UsualActions();
+
+/// What the preview's start has for a number.
+constexpr int kPreviewCall = -1;
 
 struct Outcome {
     std::int32_t result = -99;
@@ -65,7 +70,7 @@ struct Visit {
     decltype(&ShowSettingsDialog) show = ShowSettingsDialog;
     bool hasHost = true;
     HostOptions options{};
-    /// Called by host, lists and filter before they do anything, with the number of the call from 0.
+    /// Called by host, lists and filter before they do anything, with the number of the call from 0 or kPreviewCall.
     std::function<Reply(RecordingHost& host, int call, const std::string& line)> onCall{};
 
     Outcome Run() const;
