@@ -343,6 +343,10 @@ LRESULT CAccessibility::ObjectFor(LONG child, WPARAM wParam) {
 
 void CAccessibility::Disconnect() {
     m_link->dialog = nullptr;
-    // A copy: each may go with its last proxy.
-    for (CElement* element : std::vector<CElement*>(m_link->elements)) ::CoDisconnectObject(element, 0);
+    // Without memory, which closing must not need. An object may go with its last proxy.
+    while (!m_link->elements.empty()) {
+        CElement* const element = m_link->elements.back();
+        m_link->elements.pop_back();
+        ::CoDisconnectObject(element, 0);
+    }
 }
