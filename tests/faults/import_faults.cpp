@@ -3,11 +3,15 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <set>
 #include <stdexcept>
 
+#include <afxwin.h>
+
 #include "cases.h"
 #include "imports.h"
+#include "support/accessible_client.h"
 #include "visit.h"
 
 namespace {
@@ -45,18 +49,39 @@ void ClickEverywhere(HWND dialog) {
     }
 }
 
+/// What a screen reader asks for; it still holds the dialog when that closes.
+void ReadAloud(HWND dialog) {
+    static const Apartment apartment(COINIT_APARTMENTTHREADED);
+    static std::optional<AccessibleClient> reader;
+    reader.emplace(dialog);
+    for (long child = 1; reader->Object() && child <= reader->Count(); ++child) {
+        reader->Name(child);
+        reader->State(child);
+        reader->Place(child, dialog);
+    }
+}
+
+/// The list of "Deblocking Algorithm:".
+void DropList(HWND dialog) {
+    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+        ::SendMessageW(dialog, message, 0, MAKELPARAM(260, 330));
+    }
+}
+
 const std::vector<Scene>& Scenes() {
     static const std::vector<Scene> scenes = [] {
-        const auto actionsAfter = [](const Action& first) {
-            std::vector<Action> actions = UsualActions();
-            actions.insert(actions.begin(), {first, [](HWND) {}});
+        const auto actionsAfter = [](std::initializer_list<Action> first) {
+            std::vector<Action> actions;
+            for (const Action& action : first) actions.insert(actions.end(), {action, [](HWND) {}});
+            for (const Action& action : UsualActions()) actions.push_back(action);
             return actions;
         };
         return std::vector<Scene>{
-            {EffectId::Aging, actionsAfter(PressKeys)},
-            {EffectId::Fire, actionsAfter(ClickEverywhere)},
+            {EffectId::Aging, actionsAfter({PressKeys})},
+            {EffectId::Fire, actionsAfter({ClickEverywhere})},
             {EffectId::AudioChorus, UsualActions()},
-            {EffectId::Aging, UsualActions(), {.givesAllList = false}}};
+            {EffectId::Aging, UsualActions(), {.givesAllList = false}},
+            {EffectId::Deblocking, actionsAfter({ReadAloud, DropList, PressKeys})}};
     }();
     return scenes;
 }
@@ -157,22 +182,22 @@ void FailImport(const std::string& name) {
 }
 
 /// One allocation fails, or all from one on until the dialog is gone.
-void RunOutOfMemory(const Settings& settings) {
+void RunOutOfMemory(const Scene& scene, const Settings& settings) {
     Import& import = ImportOf("malloc");
-    Look();
+    Look(scene);
     ArmImport(import, -1);
-    const Seen usual = Look();
+    const Seen usual = Look(scene);
     const int calls = import.calls;
-    const int stride = settings.isLong ? 1 : 31;
+    const int stride = calls / (settings.isLong ? 300 : 30) + 1;
     for (const bool onward : {false, true}) {
         for (int call = static_cast<int>(settings.seed) % stride; call < calls; call += stride) {
             Try((onward ? "no memory from allocation " : "no memory for allocation ") + std::to_string(call) + " of " +
                 std::to_string(calls));
             ArmImport(import, call, onward);
-            const Outcome outcome = Look().outcome;
+            const Outcome outcome = Look(scene).outcome;
             ArmImport(import, -1);
-            CheckFaulty(outcome);
-            Check(Look().picture == usual.picture, "the next opening looks different");
+            CheckFaulty(outcome, scene);
+            Check(Look(scene).picture == usual.picture, "the next opening looks different");
         }
     }
 }
@@ -201,6 +226,8 @@ std::vector<Case> ImportFaultCases() {
         cases.push_back({"allocation." + name, [name](const Settings&) { FailAllocationAfter(name); },
                          !IsListed("RegisterClassW SetWindowLongPtrW SetWindowLongW", name)});
     }
-    if (!cases.empty()) cases.push_back({"memory", RunOutOfMemory});
+    if (cases.empty()) return cases;
+    cases.push_back({"memory", [](const Settings& settings) { RunOutOfMemory(Scenes().front(), settings); }});
+    cases.push_back({"memory.list", [](const Settings& settings) { RunOutOfMemory(Scenes().back(), settings); }});
     return cases;
 }
