@@ -193,8 +193,7 @@ std::vector<Case> InputCases() {
         const std::string number = std::to_string(static_cast<int>(effect.effect));
         cases.push_back(
             {"records." + number, [&effect](const Settings& settings) { OpenHostileRecords(effect, settings); }});
-        cases.push_back(
-            {"monkey." + number, [&effect](const Settings& settings) { PlayMonkey(effect, settings); }, true});
+        cases.push_back({"monkey." + number, [&effect](const Settings& settings) { PlayMonkey(effect, settings); }});
     }
     return cases;
 }
