@@ -96,167 +96,6 @@ TEST(Contract, EachOperationLiesAtItsSlot) {
         {"FindByMoniker", 10, [&] { listTwo->FindByMoniker(nullptr, &index); }},
         {"RemoveAt", 12, [&] { listOne->RemoveAt(0); }},
         {"Add", 13, [&] { listTwo->Add(nullptr, 0); }},
-        {"IEffectAutoContrast::put_Enable", 8, [&] { As<IEffectAutoContrast>(one).put_Enable(0); }},
-        {"IEffectAutoIntensity::put_Enable", 8, [&] { As<IEffectAutoIntensity>(one).put_Enable(0); }},
-        {"IEffectAutoLevel::put_Enable", 8, [&] { As<IEffectAutoLevel>(one).put_Enable(0); }},
-        {"IEffectBrightness::put_Enable", 8, [&] { As<IEffectBrightness>(one).put_Enable(0); }},
-        {"IEffectBrightness::put_FirstFrameReference", 11,
-         [&] { As<IEffectBrightness>(one).put_FirstFrameReference(0); }},
-        {"IEffectBrightness::put_Threshold", 13, [&] { As<IEffectBrightness>(one).put_Threshold(0); }},
-        {"IEffectBrightness::put_Brightness", 15, [&] { As<IEffectBrightness>(one).put_Brightness(0); }},
-        {"IEffectDeblocking::put_Enable", 8, [&] { As<IEffectDeblocking>(one).put_Enable(0); }},
-        {"IEffectDeblocking::put_Algorithm", 10, [&] { As<IEffectDeblocking>(one).put_Algorithm(0); }},
-        {"IEffectDeblocking::put_BlockWidth", 12, [&] { As<IEffectDeblocking>(one).put_BlockWidth(0); }},
-        {"IEffectDeblocking::put_BlockHeight", 14, [&] { As<IEffectDeblocking>(one).put_BlockHeight(0); }},
-        {"IEffectDeblocking::put_BlockOffsetX", 16, [&] { As<IEffectDeblocking>(one).put_BlockOffsetX(0); }},
-        {"IEffectDeblocking::put_BlockOffsetY", 18, [&] { As<IEffectDeblocking>(one).put_BlockOffsetY(0); }},
-        {"IEffectDeblocking::put_EdgeThreshold", 20, [&] { As<IEffectDeblocking>(one).put_EdgeThreshold(0); }},
-        {"IEffectEdgeEnhance::put_Enable", 16, [&] { As<IEffectEdgeEnhance>(one).put_Enable(0); }},
-        {"IEffectEdgeEnhance::put_EnableMultiplier", 18, [&] { As<IEffectEdgeEnhance>(one).put_EnableMultiplier(0); }},
-        {"IEffectEdgeEnhance::put_Multiplier", 20, [&] { As<IEffectEdgeEnhance>(one).put_Multiplier(0); }},
-        {"IEffectFire::put_Enable", 8, [&] { As<IEffectFire>(one).put_Enable(0); }},
-        {"IEffectFire::put_FlameDirection", 10, [&] { As<IEffectFire>(one).put_FlameDirection(0); }},
-        {"IEffectFire::put_Decay", 12, [&] { As<IEffectFire>(one).put_Decay(0); }},
-        {"IEffectFire::put_ColorsOffset", 14, [&] { As<IEffectFire>(one).put_ColorsOffset(0); }},
-        {"IEffectFire::put_GradientLevel", 16, [&] { As<IEffectFire>(one).put_GradientLevel(0); }},
-        {"IEffectFire::put_EntireObject", 21, [&] { As<IEffectFire>(one).put_EntireObject(0); }},
-        {"IEffectFire::put_ShowBackground", 23, [&] { As<IEffectFire>(one).put_ShowBackground(0); }},
-        {"IEffectFire::put_FirstFrameReference", 25, [&] { As<IEffectFire>(one).put_FirstFrameReference(0); }},
-        {"IEffectFire::put_Threshold", 27, [&] { As<IEffectFire>(one).put_Threshold(0); }},
-        {"IEffectFire::put_NoReference", 29, [&] { As<IEffectFire>(one).put_NoReference(0); }},
-        {"IEffectHologram::put_Enable", 8, [&] { As<IEffectHologram>(one).put_Enable(0); }},
-        {"IEffectHologram::put_Hue", 10, [&] { As<IEffectHologram>(one).put_Hue(0); }},
-        {"IEffectHologram::put_FirstFrameReference", 13, [&] { As<IEffectHologram>(one).put_FirstFrameReference(0); }},
-        {"IEffectHologram::put_LineNoise", 15, [&] { As<IEffectHologram>(one).put_LineNoise(0); }},
-        {"IEffectHologram::put_Noise", 17, [&] { As<IEffectHologram>(one).put_Noise(0); }},
-        {"IEffectHologram::put_Threshold", 19, [&] { As<IEffectHologram>(one).put_Threshold(0); }},
-        {"IEffectHologram::put_NoReference", 21, [&] { As<IEffectHologram>(one).put_NoReference(0); }},
-        {"IEffectLightning::put_Enable", 8, [&] { As<IEffectLightning>(one).put_Enable(0); }},
-        {"IEffectLightning::put_FirstFrameReference", 11,
-         [&] { As<IEffectLightning>(one).put_FirstFrameReference(0); }},
-        {"IEffectLightning::put_Threshold", 13, [&] { As<IEffectLightning>(one).put_Threshold(0); }},
-        {"IEffectLightning::put_NoReference", 15, [&] { As<IEffectLightning>(one).put_NoReference(0); }},
-        {"IEffectMotionBlur::put_Enable", 8, [&] { As<IEffectMotionBlur>(one).put_Enable(0); }},
-        {"IEffectMotionBlur::put_Hue", 10, [&] { As<IEffectMotionBlur>(one).put_Hue(0); }},
-        {"IEffectMotionBlur::put_Threshold", 12, [&] { As<IEffectMotionBlur>(one).put_Threshold(0); }},
-        {"IEffectMotionBlur::put_IntervalFrames", 14, [&] { As<IEffectMotionBlur>(one).put_IntervalFrames(0); }},
-        {"IEffectMotionEmboss::put_Enable", 8, [&] { As<IEffectMotionEmboss>(one).put_Enable(0); }},
-        {"IEffectMotionEmboss::put_FirstFrameReference", 11,
-         [&] { As<IEffectMotionEmboss>(one).put_FirstFrameReference(0); }},
-        {"IEffectMotionEmboss::put_Threshold", 13, [&] { As<IEffectMotionEmboss>(one).put_Threshold(0); }},
-        {"IEffectMotionEmboss::put_BumpMap", 15, [&] { As<IEffectMotionEmboss>(one).put_BumpMap(0); }},
-        {"IEffectMotionEmboss::put_Depth", 17, [&] { As<IEffectMotionEmboss>(one).put_Depth(0); }},
-        {"IEffectMotionEmboss::put_Elevation", 19, [&] { As<IEffectMotionEmboss>(one).put_Elevation(0); }},
-        {"IEffectMotionEmboss::put_LightAngle", 21, [&] { As<IEffectMotionEmboss>(one).put_LightAngle(0); }},
-        {"IEffectMotionEmboss::put_NoReference", 23, [&] { As<IEffectMotionEmboss>(one).put_NoReference(0); }},
-        {"IEffectMotionMosaic::put_Enable", 8, [&] { As<IEffectMotionMosaic>(one).put_Enable(0); }},
-        {"IEffectMotionMosaic::put_SquareSize", 10, [&] { As<IEffectMotionMosaic>(one).put_SquareSize(0); }},
-        {"IEffectMotionMosaic::put_Threshold", 12, [&] { As<IEffectMotionMosaic>(one).put_Threshold(0); }},
-        {"IEffectMotionMosaic::put_FirstFrameReference", 15,
-         [&] { As<IEffectMotionMosaic>(one).put_FirstFrameReference(0); }},
-        {"IEffectMotionMosaic::put_NoReference", 17, [&] { As<IEffectMotionMosaic>(one).put_NoReference(0); }},
-        {"IEffectParticles::put_Enable", 8, [&] { As<IEffectParticles>(one).put_Enable(0); }},
-        {"IEffectParticles::put_Distortion", 10, [&] { As<IEffectParticles>(one).put_Distortion(0); }},
-        {"IEffectStreak::put_Enable", 8, [&] { As<IEffectStreak>(one).put_Enable(0); }},
-        {"IEffectStreak::put_HeavyMode", 10, [&] { As<IEffectStreak>(one).put_HeavyMode(0); }},
-        {"IEffectWave::put_Enable", 8, [&] { As<IEffectWave>(one).put_Enable(0); }},
-        {"IEffectWave::put_WaveSpeed", 10, [&] { As<IEffectWave>(one).put_WaveSpeed(0); }},
-        {"IEffectWave::put_Threshold", 12, [&] { As<IEffectWave>(one).put_Threshold(0); }},
-        {"IEffectUnsharpMask::put_Enable", 16, [&] { As<IEffectUnsharpMask>(one).put_Enable(0); }},
-        {"IEffectUnsharpMask::put_Threshold", 18, [&] { As<IEffectUnsharpMask>(one).put_Threshold(0); }},
-        {"IEffectUnsharpMask::put_Radius", 20, [&] { As<IEffectUnsharpMask>(one).put_Radius(0); }},
-        {"IEffectUnsharpMask::put_Amount", 22, [&] { As<IEffectUnsharpMask>(one).put_Amount(0); }},
-        {"IEffectVideoRotation::put_Reverse", 8, [&] { As<IEffectVideoRotation>(one).put_Reverse(0); }},
-        {"IEffectVideoRotation::put_Flip", 10, [&] { As<IEffectVideoRotation>(one).put_Flip(0); }},
-        {"IEffectVideoRotation::put_Angle", 14, [&] { As<IEffectVideoRotation>(one).put_Angle(0); }},
-        {"IEffectAging::put_Enable", 8, [&] { As<IEffectAging>(one).put_Enable(0); }},
-        {"IEffectAging::put_AreaLeft", 10, [&] { As<IEffectAging>(one).put_AreaLeft(0); }},
-        {"IEffectAging::put_AreaTop", 12, [&] { As<IEffectAging>(one).put_AreaTop(0); }},
-        {"IEffectAging::put_AreaRight", 14, [&] { As<IEffectAging>(one).put_AreaRight(0); }},
-        {"IEffectAging::put_AreaBottom", 16, [&] { As<IEffectAging>(one).put_AreaBottom(0); }},
-        {"IEffectAging::put_Channel", 18, [&] { As<IEffectAging>(one).put_Channel(0); }},
-        {"IEffectAging::put_OldColor", 20, [&] { As<IEffectAging>(one).put_OldColor(0); }},
-        {"IEffectAging::put_Scratches", 22, [&] { As<IEffectAging>(one).put_Scratches(0); }},
-        {"IEffectAging::put_MaxScratches", 24, [&] { As<IEffectAging>(one).put_MaxScratches(0); }},
-        {"IEffectAging::put_ScratchHeight", 26, [&] { As<IEffectAging>(one).put_ScratchHeight(0); }},
-        {"IEffectAging::put_Dust", 28, [&] { As<IEffectAging>(one).put_Dust(0); }},
-        {"IEffectAging::put_RandomDust", 30, [&] { As<IEffectAging>(one).put_RandomDust(0); }},
-        {"IEffectAging::put_DustRandomDensity", 32, [&] { As<IEffectAging>(one).put_DustRandomDensity(0); }},
-        {"IEffectAging::put_DustDensity", 34, [&] { As<IEffectAging>(one).put_DustDensity(0); }},
-        {"IEffectAging::put_AlwaysAddDust", 36, [&] { As<IEffectAging>(one).put_AlwaysAddDust(0); }},
-        {"IEffectAging::put_DustColor", 38, [&] { As<IEffectAging>(one).put_DustColor(0); }},
-        {"IEffectAging::put_Pits", 40, [&] { As<IEffectAging>(one).put_Pits(0); }},
-        {"IEffectAging::put_RandomPits", 42, [&] { As<IEffectAging>(one).put_RandomPits(0); }},
-        {"IEffectAging::put_PitsRandomDensity", 44, [&] { As<IEffectAging>(one).put_PitsRandomDensity(0); }},
-        {"IEffectAging::put_PitsDensity", 46, [&] { As<IEffectAging>(one).put_PitsDensity(0); }},
-        {"IEffectAging::put_AlwaysAddPits", 48, [&] { As<IEffectAging>(one).put_AlwaysAddPits(0); }},
-        {"IEffectAging::put_DustColorMode", 50, [&] { As<IEffectAging>(one).put_DustColorMode(0); }},
-        {"IEffectAging::put_AreaEnable", 52, [&] { As<IEffectAging>(one).put_AreaEnable(0); }},
-        {"IEffectAging::put_PitsColorMode", 54, [&] { As<IEffectAging>(one).put_PitsColorMode(0); }},
-        {"IEffectAging::put_PitsColor", 56, [&] { As<IEffectAging>(one).put_PitsColor(0); }},
-        {"IEffectBumpMap::put_Enable", 8, [&] { As<IEffectBumpMap>(one).put_Enable(0); }},
-        {"IEffectBumpMap::put_AreaLeft", 10, [&] { As<IEffectBumpMap>(one).put_AreaLeft(0); }},
-        {"IEffectBumpMap::put_AreaTop", 12, [&] { As<IEffectBumpMap>(one).put_AreaTop(0); }},
-        {"IEffectBumpMap::put_AreaRight", 14, [&] { As<IEffectBumpMap>(one).put_AreaRight(0); }},
-        {"IEffectBumpMap::put_AreaBottom", 16, [&] { As<IEffectBumpMap>(one).put_AreaBottom(0); }},
-        {"IEffectBumpMap::put_AreaEnable", 18, [&] { As<IEffectBumpMap>(one).put_AreaEnable(0); }},
-        {"IEffectBumpMap::put_LightAngle", 20, [&] { As<IEffectBumpMap>(one).put_LightAngle(0); }},
-        {"IEffectBumpMap::put_Elevation", 22, [&] { As<IEffectBumpMap>(one).put_Elevation(0); }},
-        {"IEffectBumpMap::put_Depth", 24, [&] { As<IEffectBumpMap>(one).put_Depth(0); }},
-        {"IEffectBumpMap::put_XOffset", 26, [&] { As<IEffectBumpMap>(one).put_XOffset(0); }},
-        {"IEffectBumpMap::put_YOffset", 28, [&] { As<IEffectBumpMap>(one).put_YOffset(0); }},
-        {"IEffectBumpMap::put_Ambient", 30, [&] { As<IEffectBumpMap>(one).put_Ambient(0); }},
-        {"IEffectBumpMap::put_Invert", 34, [&] { As<IEffectBumpMap>(one).put_Invert(0); }},
-        {"IEffectDizzy::put_Enable", 8, [&] { As<IEffectDizzy>(one).put_Enable(0); }},
-        {"IEffectDizzy::put_AreaLeft", 10, [&] { As<IEffectDizzy>(one).put_AreaLeft(0); }},
-        {"IEffectDizzy::put_AreaTop", 12, [&] { As<IEffectDizzy>(one).put_AreaTop(0); }},
-        {"IEffectDizzy::put_AreaRight", 14, [&] { As<IEffectDizzy>(one).put_AreaRight(0); }},
-        {"IEffectDizzy::put_AreaBottom", 16, [&] { As<IEffectDizzy>(one).put_AreaBottom(0); }},
-        {"IEffectDizzy::put_AreaEnable", 18, [&] { As<IEffectDizzy>(one).put_AreaEnable(0); }},
-        {"IEffectDizzy::put_ZoomLevel", 20, [&] { As<IEffectDizzy>(one).put_ZoomLevel(0); }},
-        {"IEffectDizzy::put_RotationSpeed", 22, [&] { As<IEffectDizzy>(one).put_RotationSpeed(0); }},
-        {"IEffectGlassTile::put_Enable", 8, [&] { As<IEffectGlassTile>(one).put_Enable(0); }},
-        {"IEffectGlassTile::put_AreaLeft", 10, [&] { As<IEffectGlassTile>(one).put_AreaLeft(0); }},
-        {"IEffectGlassTile::put_AreaTop", 12, [&] { As<IEffectGlassTile>(one).put_AreaTop(0); }},
-        {"IEffectGlassTile::put_AreaRight", 14, [&] { As<IEffectGlassTile>(one).put_AreaRight(0); }},
-        {"IEffectGlassTile::put_AreaBottom", 16, [&] { As<IEffectGlassTile>(one).put_AreaBottom(0); }},
-        {"IEffectGlassTile::put_AreaEnable", 18, [&] { As<IEffectGlassTile>(one).put_AreaEnable(0); }},
-        {"IEffectGlassTile::put_TileWidth", 20, [&] { As<IEffectGlassTile>(one).put_TileWidth(0); }},
-        {"IEffectGlassTile::put_TileHeight", 22, [&] { As<IEffectGlassTile>(one).put_TileHeight(0); }},
-        {"IEffectGlassTile::put_Refraction", 24, [&] { As<IEffectGlassTile>(one).put_Refraction(0); }},
-        {"IEffectLens::put_Enable", 8, [&] { As<IEffectLens>(one).put_Enable(0); }},
-        {"IEffectLens::put_AreaLeft", 10, [&] { As<IEffectLens>(one).put_AreaLeft(0); }},
-        {"IEffectLens::put_AreaTop", 12, [&] { As<IEffectLens>(one).put_AreaTop(0); }},
-        {"IEffectLens::put_AreaRight", 14, [&] { As<IEffectLens>(one).put_AreaRight(0); }},
-        {"IEffectLens::put_AreaBottom", 16, [&] { As<IEffectLens>(one).put_AreaBottom(0); }},
-        {"IEffectLens::put_AreaEnable", 18, [&] { As<IEffectLens>(one).put_AreaEnable(0); }},
-        {"IEffectLens::put_Refraction", 20, [&] { As<IEffectLens>(one).put_Refraction(0); }},
-        {"IEffectLens::put_KeepSurroundings", 22, [&] { As<IEffectLens>(one).put_KeepSurroundings(0); }},
-        {"IEffectMaze::put_Enable", 8, [&] { As<IEffectMaze>(one).put_Enable(0); }},
-        {"IEffectMaze::put_AreaLeft", 10, [&] { As<IEffectMaze>(one).put_AreaLeft(0); }},
-        {"IEffectMaze::put_AreaTop", 12, [&] { As<IEffectMaze>(one).put_AreaTop(0); }},
-        {"IEffectMaze::put_AreaRight", 14, [&] { As<IEffectMaze>(one).put_AreaRight(0); }},
-        {"IEffectMaze::put_AreaBottom", 16, [&] { As<IEffectMaze>(one).put_AreaBottom(0); }},
-        {"IEffectMaze::put_AreaEnable", 18, [&] { As<IEffectMaze>(one).put_AreaEnable(0); }},
-        {"IEffectMaze::put_Divisions", 20, [&] { As<IEffectMaze>(one).put_Divisions(0); }},
-        {"IEffectMaze::put_BreakKind", 22, [&] { As<IEffectMaze>(one).put_BreakKind(0); }},
-        {"IEffectMotionScan::put_Enable", 8, [&] { As<IEffectMotionScan>(one).put_Enable(0); }},
-        {"IEffectMotionScan::put_AreaLeft", 10, [&] { As<IEffectMotionScan>(one).put_AreaLeft(0); }},
-        {"IEffectMotionScan::put_AreaTop", 12, [&] { As<IEffectMotionScan>(one).put_AreaTop(0); }},
-        {"IEffectMotionScan::put_AreaRight", 14, [&] { As<IEffectMotionScan>(one).put_AreaRight(0); }},
-        {"IEffectMotionScan::put_AreaBottom", 16, [&] { As<IEffectMotionScan>(one).put_AreaBottom(0); }},
-        {"IEffectMotionScan::put_AreaEnable", 18, [&] { As<IEffectMotionScan>(one).put_AreaEnable(0); }},
-        {"IEffectMotionScan::put_LineIncrement", 20, [&] { As<IEffectMotionScan>(one).put_LineIncrement(0); }},
-        {"IEffectMotionScan::put_ShowScanLine", 22, [&] { As<IEffectMotionScan>(one).put_ShowScanLine(0); }},
-        {"IEffectRain::put_Enable", 8, [&] { As<IEffectRain>(one).put_Enable(0); }},
-        {"IEffectRain::put_AreaLeft", 10, [&] { As<IEffectRain>(one).put_AreaLeft(0); }},
-        {"IEffectRain::put_AreaTop", 12, [&] { As<IEffectRain>(one).put_AreaTop(0); }},
-        {"IEffectRain::put_AreaRight", 14, [&] { As<IEffectRain>(one).put_AreaRight(0); }},
-        {"IEffectRain::put_AreaBottom", 16, [&] { As<IEffectRain>(one).put_AreaBottom(0); }},
-        {"IEffectRain::put_AreaEnable", 18, [&] { As<IEffectRain>(one).put_AreaEnable(0); }},
-        {"IEffectRain::put_WaveSpeed", 20, [&] { As<IEffectRain>(one).put_WaveSpeed(0); }},
-        {"IEffectRain::put_Density", 22, [&] { As<IEffectRain>(one).put_Density(0); }},
-        {"IEffectRain::put_CustomRainDrops", 24, [&] { As<IEffectRain>(one).put_CustomRainDrops(0); }},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -264,6 +103,93 @@ TEST(Contract, EachOperationLiesAtItsSlot) {
         row.call();
         EXPECT_EQ(g_calledSlot, row.slot);
     }
+}
+
+void CheckSlots(const char*) {}
+/// A slot, the setter that lies there, and so on.
+template <typename Interface, typename Value, typename... Rest>
+void CheckSlots(const char* name, int slot, HRESULT (STDMETHODCALLTYPE Interface::*set)(Value), Rest... rest) {
+    RawObject<Interface> object{Tables::one};
+    g_calledSlot = -1;
+    (object.operator->()->*set)(0);
+    EXPECT_EQ(g_calledSlot, slot) << name;
+    CheckSlots(name, rest...);
+}
+
+template <typename Interface>
+void CheckAreaSlots(const char* name, int areaEnable) {
+    CheckSlots(name, 8, &Interface::put_Enable, 10, &Interface::put_AreaLeft, 12, &Interface::put_AreaTop, 14,
+               &Interface::put_AreaRight, 16, &Interface::put_AreaBottom, areaEnable, &Interface::put_AreaEnable);
+}
+
+TEST(Contract, EachSetterLiesAtItsSlot) {
+    CheckSlots("IEffectAutoContrast", 8, &IEffectAutoContrast::put_Enable);
+    CheckSlots("IEffectAutoIntensity", 8, &IEffectAutoIntensity::put_Enable);
+    CheckSlots("IEffectAutoLevel", 8, &IEffectAutoLevel::put_Enable);
+    CheckSlots("IEffectBrightness", 8, &IEffectBrightness::put_Enable, 11, &IEffectBrightness::put_FirstFrameReference,
+               13, &IEffectBrightness::put_Threshold, 15, &IEffectBrightness::put_Brightness);
+    CheckSlots("IEffectDeblocking", 8, &IEffectDeblocking::put_Enable, 10, &IEffectDeblocking::put_Algorithm, 12,
+               &IEffectDeblocking::put_BlockWidth, 14, &IEffectDeblocking::put_BlockHeight, 16,
+               &IEffectDeblocking::put_BlockOffsetX, 18, &IEffectDeblocking::put_BlockOffsetY, 20,
+               &IEffectDeblocking::put_EdgeThreshold);
+    CheckSlots("IEffectEdgeEnhance", 16, &IEffectEdgeEnhance::put_Enable, 18, &IEffectEdgeEnhance::put_EnableMultiplier,
+               20, &IEffectEdgeEnhance::put_Multiplier);
+    CheckSlots(
+        "IEffectFire", 8, &IEffectFire::put_Enable, 10, &IEffectFire::put_FlameDirection, 12, &IEffectFire::put_Decay,
+        14, &IEffectFire::put_ColorsOffset, 16, &IEffectFire::put_GradientLevel, 21, &IEffectFire::put_EntireObject, 23,
+        &IEffectFire::put_ShowBackground, 25, &IEffectFire::put_FirstFrameReference, 27, &IEffectFire::put_Threshold,
+        29, &IEffectFire::put_NoReference);
+    CheckSlots("IEffectHologram", 8, &IEffectHologram::put_Enable, 10, &IEffectHologram::put_Hue, 13,
+               &IEffectHologram::put_FirstFrameReference, 15, &IEffectHologram::put_LineNoise, 17,
+               &IEffectHologram::put_Noise, 19, &IEffectHologram::put_Threshold, 21, &IEffectHologram::put_NoReference);
+    CheckSlots("IEffectLightning", 8, &IEffectLightning::put_Enable, 11, &IEffectLightning::put_FirstFrameReference, 13,
+               &IEffectLightning::put_Threshold, 15, &IEffectLightning::put_NoReference);
+    CheckSlots("IEffectMotionBlur", 8, &IEffectMotionBlur::put_Enable, 10, &IEffectMotionBlur::put_Hue, 12,
+               &IEffectMotionBlur::put_Threshold, 14, &IEffectMotionBlur::put_IntervalFrames);
+    CheckSlots(
+        "IEffectMotionEmboss", 8, &IEffectMotionEmboss::put_Enable, 11, &IEffectMotionEmboss::put_FirstFrameReference,
+        13, &IEffectMotionEmboss::put_Threshold, 15, &IEffectMotionEmboss::put_BumpMap, 17,
+        &IEffectMotionEmboss::put_Depth, 19, &IEffectMotionEmboss::put_Elevation, 21,
+        &IEffectMotionEmboss::put_LightAngle, 23, &IEffectMotionEmboss::put_NoReference);
+    CheckSlots("IEffectMotionMosaic", 8, &IEffectMotionMosaic::put_Enable, 10, &IEffectMotionMosaic::put_SquareSize, 12,
+               &IEffectMotionMosaic::put_Threshold, 15, &IEffectMotionMosaic::put_FirstFrameReference, 17,
+               &IEffectMotionMosaic::put_NoReference);
+    CheckSlots("IEffectParticles", 8, &IEffectParticles::put_Enable, 10, &IEffectParticles::put_Distortion);
+    CheckSlots("IEffectStreak", 8, &IEffectStreak::put_Enable, 10, &IEffectStreak::put_HeavyMode);
+    CheckSlots(
+        "IEffectWave", 8, &IEffectWave::put_Enable, 10, &IEffectWave::put_WaveSpeed, 12, &IEffectWave::put_Threshold);
+    CheckSlots("IEffectUnsharpMask", 16, &IEffectUnsharpMask::put_Enable, 18, &IEffectUnsharpMask::put_Threshold, 20,
+               &IEffectUnsharpMask::put_Radius, 22, &IEffectUnsharpMask::put_Amount);
+    CheckSlots("IEffectVideoRotation", 8, &IEffectVideoRotation::put_Reverse, 10, &IEffectVideoRotation::put_Flip, 14,
+               &IEffectVideoRotation::put_Angle);
+    CheckSlots(
+        "IEffectAging", 18, &IEffectAging::put_Channel, 20, &IEffectAging::put_OldColor, 22,
+        &IEffectAging::put_Scratches, 24, &IEffectAging::put_MaxScratches, 26, &IEffectAging::put_ScratchHeight, 28,
+        &IEffectAging::put_Dust, 30, &IEffectAging::put_RandomDust, 32, &IEffectAging::put_DustRandomDensity, 34,
+        &IEffectAging::put_DustDensity, 36, &IEffectAging::put_AlwaysAddDust, 38, &IEffectAging::put_DustColor, 40,
+        &IEffectAging::put_Pits, 42, &IEffectAging::put_RandomPits, 44, &IEffectAging::put_PitsRandomDensity, 46,
+        &IEffectAging::put_PitsDensity, 48, &IEffectAging::put_AlwaysAddPits, 50, &IEffectAging::put_DustColorMode, 54,
+        &IEffectAging::put_PitsColorMode, 56, &IEffectAging::put_PitsColor);
+    CheckSlots("IEffectBumpMap", 20, &IEffectBumpMap::put_LightAngle, 22, &IEffectBumpMap::put_Elevation, 24,
+               &IEffectBumpMap::put_Depth, 26, &IEffectBumpMap::put_XOffset, 28, &IEffectBumpMap::put_YOffset, 30,
+               &IEffectBumpMap::put_Ambient, 34, &IEffectBumpMap::put_Invert);
+    CheckSlots("IEffectDizzy", 20, &IEffectDizzy::put_ZoomLevel, 22, &IEffectDizzy::put_RotationSpeed);
+    CheckSlots("IEffectGlassTile", 20, &IEffectGlassTile::put_TileWidth, 22, &IEffectGlassTile::put_TileHeight, 24,
+               &IEffectGlassTile::put_Refraction);
+    CheckSlots("IEffectLens", 20, &IEffectLens::put_Refraction, 22, &IEffectLens::put_KeepSurroundings);
+    CheckSlots("IEffectMaze", 20, &IEffectMaze::put_Divisions, 22, &IEffectMaze::put_BreakKind);
+    CheckSlots(
+        "IEffectMotionScan", 20, &IEffectMotionScan::put_LineIncrement, 22, &IEffectMotionScan::put_ShowScanLine);
+    CheckSlots("IEffectRain", 20, &IEffectRain::put_WaveSpeed, 22, &IEffectRain::put_Density, 24,
+               &IEffectRain::put_CustomRainDrops);
+    CheckAreaSlots<IEffectAging>("IEffectAging", 52);
+    CheckAreaSlots<IEffectBumpMap>("IEffectBumpMap", 18);
+    CheckAreaSlots<IEffectDizzy>("IEffectDizzy", 18);
+    CheckAreaSlots<IEffectGlassTile>("IEffectGlassTile", 18);
+    CheckAreaSlots<IEffectLens>("IEffectLens", 18);
+    CheckAreaSlots<IEffectMaze>("IEffectMaze", 18);
+    CheckAreaSlots<IEffectMotionScan>("IEffectMotionScan", 18);
+    CheckAreaSlots<IEffectRain>("IEffectRain", 18);
 }
 
 TEST(Contract, StructuresArriveByValueFieldByField) {

@@ -365,25 +365,4 @@ TEST(AudioDialog, UsesTheAudioChainInItsOwnOrder) {
     EXPECT_EQ(WithoutRefresh(host.Calls().Take()), expected);
 }
 
-// --- the host survives ---
-
-TEST(Endurance, OpeningAllDialogsAgainAndAgainLeavesNothingBehind) {
-    const auto openAll = [] {
-        for (std::int32_t id = kFirstEffectId; id <= kLastEffectId; ++id) {
-            Session session(static_cast<EffectId>(id), std::vector<std::int32_t>(25, 1));
-            session.Run([](DialogDriver& dialog) { dialog.Close(); });
-        }
-    };
-    openAll();
-    openAll();
-    const int objects = CountGdiObjects();
-    const int windows = CountWindows();
-    const int blocks = CountHeapBlocks();
-    constexpr int kRounds = 6;
-    for (int round = 0; round < kRounds; ++round) openAll();
-    EXPECT_EQ(CountGdiObjects(), objects);
-    EXPECT_EQ(CountWindows(), windows);
-    EXPECT_LT(CountHeapBlocks() - blocks, kRounds) << "less than one block per opening of any dialog";
-}
-
 }  // namespace
