@@ -17,6 +17,30 @@
 
 using Record = std::vector<std::int32_t>;
 
+/// A click on a box, or on a slider and then a drag to its right end. No push: the box is disabled.
+struct Step {
+    POINT at;
+    std::string push;
+    int sliderId = 0;
+    RECT number{};  ///< Where the slider's number stands.
+    std::string dragPush{};
+};
+
+/// A step told by what it changes: the indexes of numbers in the push, and their values.
+struct Change {
+    Step step;
+    std::vector<std::pair<std::size_t, std::int32_t>> numbers;
+    std::int32_t dragged = 0;  ///< The same number's value after the drag.
+};
+
+/// Without numbers, the box is disabled.
+inline Change Click(int x, int y, std::vector<std::pair<std::size_t, std::int32_t>> numbers = {}) {
+    return {{{x, y}, ""}, std::move(numbers)};
+}
+inline Change Slide(int id, int x, const RECT& number, std::size_t index, std::int32_t clicked, std::int32_t dragged) {
+    return {{{x, 10}, "", id, number}, {{index, clicked}}, dragged};
+}
+
 /// Writes a push down as the trace has it.
 class Setters {
 public:
@@ -37,6 +61,20 @@ public:
         return push;
     }
 
+    /// The pushes of changes, one after the other.
+    std::vector<Step> Steps(Record numbers, const std::vector<Change>& changes) const {
+        std::vector<Step> steps;
+        for (const Change& change : changes) {
+            Step& step = steps.emplace_back(change.step);
+            for (const auto& [index, value] : change.numbers) numbers[index] = value;
+            if (!change.numbers.empty()) step.push = (*this)(numbers);
+            if (!step.sliderId) continue;
+            numbers[change.numbers.front().first] = change.dragged;
+            step.dragPush = (*this)(numbers);
+        }
+        return steps;
+    }
+
 private:
     const char* m_names;
 };
@@ -48,18 +86,15 @@ struct Opening {
     Record saved;
 };
 
-/// A click on a box, or on a slider and then a drag to its right end. No push: the box is disabled.
-struct Step {
-    POINT at;
-    std::string push;
-    int sliderId = 0;
-    RECT number{};  ///< Where the slider's number stands.
-    std::string dragPush{};
-};
-
-inline Step Click(int x, int y, const std::string& push) { return {{x, y}, push}; }
-inline Step Slide(int id, int x, const RECT& number, const std::string& push, const std::string& dragPush) {
-    return {{x, 10}, push, id, number, dragPush};
+/// A middle, the lowest and the highest record, one above and one below all ranges; those above lead to what the highest
+/// does, those below to what the lowest does where nothing else is said.
+inline std::vector<Opening> Openings(const Opening& middle, const Opening& lowest, const Opening& highest,
+                                     const Record& above, const Opening& below) {
+    return {middle, lowest, highest, {above, highest.push, highest.saved}, below};
+}
+inline std::vector<Opening> Openings(const Opening& middle, const Opening& lowest, const Opening& highest,
+                                     const Record& above, const Record& below) {
+    return Openings(middle, lowest, highest, above, {below, lowest.push, lowest.saved});
 }
 
 /// A public record: its effect, and the values of a new one.
@@ -121,7 +156,7 @@ struct DialogRow {
         std::vector<int> sliders;
         std::vector<int> boxes;  ///< All other ids whose command pushes, but for "Enable".
     } controls;
-    std::vector<Opening> openings;  ///< A middle, the lowest, the highest record, one above and one below all ranges.
-    std::vector<Step> steps;        ///< From the middle record.
+    std::vector<Opening> openings;
+    std::vector<Step> steps;  ///< From the middle record.
     Record stepped;
 };
