@@ -27,17 +27,18 @@ struct Step {
 };
 
 /// A step told by what it changes: the indexes of numbers in the push, and their values.
-struct Change {
+struct StepChange {
     Step step;
     std::vector<std::pair<std::size_t, std::int32_t>> numbers;
     std::int32_t dragged = 0;  ///< The same number's value after the drag.
 };
 
 /// Without numbers, the box is disabled.
-inline Change Click(int x, int y, std::vector<std::pair<std::size_t, std::int32_t>> numbers = {}) {
+inline StepChange Click(int x, int y, std::vector<std::pair<std::size_t, std::int32_t>> numbers = {}) {
     return {{{x, y}, ""}, std::move(numbers)};
 }
-inline Change Slide(int id, int x, const RECT& number, std::size_t index, std::int32_t clicked, std::int32_t dragged) {
+inline StepChange Slide(int id, int x, const RECT& number, std::size_t index, std::int32_t clicked,
+                        std::int32_t dragged) {
     return {{{x, 10}, "", id, number}, {{index, clicked}}, dragged};
 }
 
@@ -62,9 +63,9 @@ public:
     }
 
     /// The pushes of changes, one after the other.
-    std::vector<Step> Steps(Record numbers, const std::vector<Change>& changes) const {
+    std::vector<Step> Steps(Record numbers, const std::vector<StepChange>& changes) const {
         std::vector<Step> steps;
-        for (const Change& change : changes) {
+        for (const StepChange& change : changes) {
             Step& step = steps.emplace_back(change.step);
             for (const auto& [index, value] : change.numbers) numbers[index] = value;
             if (!change.numbers.empty()) step.push = (*this)(numbers);
