@@ -2,6 +2,7 @@
 #include <atomic>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 #include "cases.h"
 #include "support/expected_calls.h"
@@ -195,10 +196,68 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
     }
 }
 
+/// Everything that comes up on top of a dialog goes under it, in every way.
+void EndUnderBoxes(const Settings&) {
+    const auto openColors = [](HWND dialog) {
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
+            ::PostMessageW(dialog, message, 0, MAKELPARAM(170, 542));  // The dust's "Set Color".
+        }
+    };
+    const Action wait = [](HWND) {};
+    const struct {
+        const char* name;
+        Visit visit;
+    } boxes[] = {
+        {"the colours",
+         {.effect = EffectId::Aging,
+          .record = {1, 1, 10, 20, 301, 401, 1, 2, 1, 50, 800, 1, 0, 0, 1, 40, 2, 0x0000FF, 1, 0, 0, 1, 60, 2, 0},
+          .actions = {openColors, wait}}},
+        {"the box of an invalid area",
+         {.effect = EffectId::Color,
+          .record = {1, 1, 1, 90, 50, 50, 50, 10, 20, 301, 401},
+          .actions = {[](HWND dialog) { ::SetDlgItemTextW(dialog, 17, L"9999"); }, PressOk, wait}}},
+        {"the box of a failed attachment",
+         {.effect = EffectId::GammaCorrection,
+          .record = {1, 100},
+          .actions = {},
+          .options = {.givesActiveList = false}}},
+    };
+    const struct {
+        const char* name;
+        Action happen;
+    } ends[] = {
+        {"the dialog is destroyed", ::DestroyWindow},
+        {"the owner is destroyed", [](HWND) { ::DestroyWindow(OwnerWindow()); }},
+        {"the application quits", [](HWND) { ::PostQuitMessage(0); }},
+        {"the dialog is cancelled", PressCancel},
+        {"the dialog is accepted", PressOk},
+    };
+    for (const auto& box : boxes) {
+        for (const auto& end : ends) {
+            Try(std::string(box.name) + ": " + end.name);
+            HWND dialog = nullptr;
+            bool happened = false;
+            Visit visit = box.visit;
+            visit.onCall = [&](RecordingHost& host, int, const std::string&) {
+                dialog = DialogOf(host);
+                return Reply::Normal;
+            };
+            visit.answerBox = [&](HWND top) {
+                if (top == dialog || std::exchange(happened, true)) return PressOk(top);
+                end.happen(dialog);
+            };
+            if (visit.options.givesActiveList) visit.actions.push_back(visit.answerBox);
+            const Outcome outcome = visit.Run();
+            Check(happened, "no box came up");
+            CheckOutcome(visit, outcome, outcome, Expected::AsUsual);
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<Case> CallFaultCases() {
-    std::vector<Case> cases;
+    std::vector<Case> cases = {{"boxes", EndUnderBoxes}};
     for (const EffectRecords& effect : AllEffects()) {
         cases.push_back({"calls." + std::to_string(static_cast<int>(effect.effect)),
                          [&effect](const Settings& settings) { FailAtEveryCall(effect, settings); }});

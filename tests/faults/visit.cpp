@@ -22,6 +22,7 @@ HWND g_lastDialog = nullptr;
 /// The user of the innermost dialog.
 struct Hands {
     const std::vector<Action>& actions;
+    const Action& answerBox;
     std::size_t done = 0;
     int ticks = 0;
     int unseen = 0;  ///< Ticks in a row without a visible dialog.
@@ -61,7 +62,7 @@ void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
         Check(false, "does not close");
         ::DestroyWindow(dialog);
     } else if (::GetDlgItem(dialog, 0xFFFF)) {
-        PressOk(dialog);  // A message box: that is its text.
+        hands.answerBox(dialog);  // That is its text.
     } else if (hands.done < hands.actions.size()) {
         hands.actions[hands.done++](dialog);
     } else if (hands.unseen) {
@@ -158,7 +159,7 @@ Outcome Visit::Run() const {
         };
     }
     IMediaHost* pointer = hasHost ? &host : nullptr;
-    Hands hands{actions};
+    Hands hands{actions, answerBox};
     Hands* outer = std::exchange(g_hands, &hands);
     const UINT_PTR timer = ::SetTimer(nullptr, 0, kTickMs, Tick);
     outcome.result = show(&pointer, effect, video.cx, video.cy, frame.cx, frame.cy, memory.Address());

@@ -69,6 +69,8 @@ struct Visit {
     SIZE frame{360, 240};
     decltype(&ShowSettingsDialog) show = ShowSettingsDialog;
     bool hasHost = true;
+    /// What the user does when a message box of the system is up.
+    Action answerBox = PressOk;
     HostOptions options{};
     /// Called by host, lists and filter before they do anything, with the number of the call from 0 or kPreviewCall.
     std::function<Reply(RecordingHost& host, int call, const std::string& line)> onCall{};
