@@ -143,10 +143,13 @@ bool CWnd::IsOwnClass(LPCWSTR name) {
 bool CWnd::Attach(HWND window) {
     Windows().Insert(window, this);
     const auto current = reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
-    m_superProc = current == &ObjectWindowProc
-                      ? ::DefWindowProcW
-                      : reinterpret_cast<WNDPROC>(
-                            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
+    if (current == &ObjectWindowProc) {
+        m_superProc = ::DefWindowProcW;
+    } else if (current) {
+        // Where the question fails, the answer could be this very procedure, which would then call itself for ever.
+        m_superProc = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&ObjectWindowProc)));
+    }
     if (m_superProc) {
         m_hWnd = window;
     } else {

@@ -217,8 +217,9 @@ void TakeUsualPictures() {
 std::vector<Case> ImportFaultCases() {
     // One of each kind, and those that make what is kept from one drawing to the next.
     constexpr char kShort[] =
-        "BeginPaint CreateCompatibleBitmap CreateDialogIndirectParamW CreateWindowExW GetMessageW RegisterClassW "
-        "SetWindowLongPtrW SetWindowLongW SetWindowsHookExW SysAllocStringLen UnhookWindowsHookEx malloc "
+        "BeginPaint CreateCompatibleBitmap CreateDialogIndirectParamW CreateWindowExW GetMessageW GetWindowLongPtrW "
+        "GetWindowLongW RegisterClassW SetWindowLongPtrW SetWindowLongW SetWindowsHookExW SysAllocStringLen "
+        "UnhookWindowsHookEx malloc "
         "CreateFontIndirectW GdipCreateBitmapFromScan0 GdipCreateFont GdipCreateFontFromLogfontW GdipCreateFromHDC "
         "GdipCreatePath GdipCreateSolidFill GdipCreateStringFormat GdipDrawString GdipGetImageGraphicsContext "
         "GdipLoadImageFromFile GetObjectW LoadLibraryW";
