@@ -317,4 +317,17 @@ void UnregisterClasses();
 // A module that is built with this layer has one state only, its own: nothing is to be switched.
 struct AFX_MODULE_STATE {};
 inline AFX_MODULE_STATE* AfxGetStaticModuleState() { return nullptr; }
-#define AFX_MANAGE_STATE(state) static_cast<void>(state)
+
+namespace afx {
+
+/// A call from outside. What is kept for its thread goes with the outermost.
+class ModuleCall {
+public:
+    explicit ModuleCall(AFX_MODULE_STATE* state) noexcept;
+    ~ModuleCall();
+    ModuleCall(const ModuleCall&) = delete;
+    ModuleCall& operator=(const ModuleCall&) = delete;
+};
+
+}  // namespace afx
+#define AFX_MANAGE_STATE(state) const afx::ModuleCall moduleCall(state)

@@ -37,6 +37,12 @@ CWinApp* AfxGetApp() { return g_theApp; }
 
 HINSTANCE AfxGetInstanceHandle() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
 
+afx::ModuleCall::ModuleCall(AFX_MODULE_STATE* /*state*/) noexcept { ++CurrentThread().calls; }
+
+afx::ModuleCall::~ModuleCall() {
+    if (--CurrentThread().calls == 0) ForgetCurrentThread();
+}
+
 int AfxMessageBox(LPCWSTR text, UINT type, UINT /*helpId*/) {
     if (!(type & MB_ICONMASK)) type |= MB_ICONEXCLAMATION;
     return ::MessageBoxW(afx::OwnerFor(nullptr), text, ModuleName().c_str(), type);

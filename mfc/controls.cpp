@@ -17,7 +17,7 @@ namespace {
 /// Calls one of the system's dialogs. Their library is loaded while they are shown: few users ever see one.
 template <typename Setup>
 INT_PTR RunCommonDialog(const char* function, Setup& setup) {
-    const HMODULE library = ::LoadLibraryExW(L"comdlg32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    const HMODULE library = ATL::AtlLoadSystemLibraryUsingFullPath(L"comdlg32.dll");
     if (!library) return IDCANCEL;
     const auto run =
         reinterpret_cast<BOOL(APIENTRY*)(Setup*)>(reinterpret_cast<void*>(::GetProcAddress(library, function)));

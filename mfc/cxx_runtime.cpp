@@ -12,7 +12,7 @@ namespace {
 
 // --- threads ---
 
-// As many threads may be alive that have used the module. Their identifiers are multiples of 4, so 1 is no thread's.
+// As many threads may be in calls at once. Their identifiers are multiples of 4, so 1 is no thread's.
 constexpr std::size_t kMaxThreads = 1024;
 constexpr LONG kFree = 0;
 constexpr LONG kFreedAgain = 1;  // Others may stand behind it.
@@ -111,6 +111,7 @@ void ForgetCurrentThread() noexcept {
     state->uncaughtExceptions = 0;
     state->creationHook = nullptr;
     state->currentMessage = nullptr;
+    state->calls = 0;
     ::InterlockedExchange(&state->threadId, kFreedAgain);
 }
 

@@ -8,7 +8,7 @@ namespace afx {
 
 class CreationHook;
 
-/// Stands at its thread's address until the thread ends.
+/// Stays in its place until its thread's last call from outside returns, or the thread ends.
 struct ThreadState {
     // What is being caught and thrown; begins as the C++ library knows it.
     void* caughtExceptions;
@@ -17,11 +17,12 @@ struct ThreadState {
     volatile LONG threadId;
     CreationHook* creationHook;  ///< The innermost one; null outside of creating windows.
     const MSG* currentMessage;   ///< What the thread's innermost window procedure handles.
+    int calls;                   ///< From outside, one within the other.
 };
 
 /// The calling thread's.
 ThreadState& CurrentThread() noexcept;
-/// The calling thread ends; what was kept for it is free for another.
+/// What was kept for the calling thread is free for another.
 void ForgetCurrentThread() noexcept;
 
 /// A lock that needs nothing to be made and leaves nothing behind.

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <initializer_list>
 #include <string>
+#include <thread>
 
 #include <windows.h>
 
@@ -135,6 +136,32 @@ void LoadAgainAndAgain(const Settings& settings) {
     ::DeleteFileW(copy);
 }
 
+/// As a host with a pool of threads does, which all stay. No dialog comes up: a screen has no room for those of so many.
+void CallOnManyThreads(const Settings&) {
+    const HANDLE end = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    const HANDLE called = ::CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    std::vector<std::thread> threads;
+    for (int count = 1; count <= 1100; ++count) {
+        Try("thread " + std::to_string(count));
+        threads.emplace_back([&] {
+            IMediaHost* host = nullptr;
+            std::int32_t record = 0;
+            const auto result = ShowSettingsDialog(&host, static_cast<EffectId>(31), 1, 1, 1, 1, &record);
+            Check(result == kSettingsNotShown, "an unknown effect is shown");
+            ::SetEvent(called);
+            ::WaitForSingleObject(end, INFINITE);
+        });
+        ::WaitForSingleObject(called, INFINITE);
+    }
+    ::SetEvent(end);
+    for (std::thread& thread : threads) thread.join();
+}
+
 }  // namespace
 
-std::vector<Case> SlopeCases() { return {{"slope.openings", OpenAgainAndAgain}, {"slope.loads", LoadAgainAndAgain}}; }
+std::vector<Case> SlopeCases() {
+    std::vector<Case> cases = {{"slope.openings", OpenAgainAndAgain}, {"slope.loads", LoadAgainAndAgain}};
+    // As many stacks are more than a 32-bit process holds.
+    if constexpr (sizeof(void*) == 8) cases.push_back({"slope.threads", CallOnManyThreads});
+    return cases;
+}
