@@ -206,17 +206,21 @@ void EndUnderBoxes(const Settings&) {
     const Action wait = [](HWND) {};
     const struct {
         const char* name;
+        std::int32_t accepted;  ///< What OK under it leads to in the end.
         Visit visit;
     } boxes[] = {
         {"the colours",
+         kSettingsAccepted,
          {.effect = EffectId::Aging,
           .record = {1, 1, 10, 20, 301, 401, 1, 2, 1, 50, 800, 1, 0, 0, 1, 40, 2, 0x0000FF, 1, 0, 0, 1, 60, 2, 0},
           .actions = {openColors, wait}}},
         {"the box of an invalid area",
+         kSettingsCancelled,
          {.effect = EffectId::Color,
           .record = {1, 1, 1, 90, 50, 50, 50, 10, 20, 301, 401},
           .actions = {[](HWND dialog) { ::SetDlgItemTextW(dialog, 17, L"9999"); }, PressOk, wait}}},
         {"the box of a failed attachment",
+         kSettingsAccepted,
          {.effect = EffectId::GammaCorrection,
           .record = {1, 100},
           .actions = {},
@@ -225,12 +229,13 @@ void EndUnderBoxes(const Settings&) {
     const struct {
         const char* name;
         Action happen;
+        std::int32_t result;
     } ends[] = {
-        {"the dialog is destroyed", ::DestroyWindow},
-        {"the owner is destroyed", [](HWND) { ::DestroyWindow(OwnerWindow()); }},
-        {"the application quits", [](HWND) { ::PostQuitMessage(0); }},
-        {"the dialog is cancelled", PressCancel},
-        {"the dialog is accepted", PressOk},
+        {"the dialog is destroyed", ::DestroyWindow, kSettingsNotCreated},
+        {"the owner is destroyed", [](HWND) { ::DestroyWindow(OwnerWindow()); }, kSettingsNotCreated},
+        {"the application quits", [](HWND) { ::PostQuitMessage(0); }, kSettingsNotCreated},
+        {"the dialog is cancelled", PressCancel, kSettingsCancelled},
+        {"the dialog is accepted", PressOk, kSettingsAccepted},
     };
     for (const auto& box : boxes) {
         for (const auto& end : ends) {
@@ -249,7 +254,10 @@ void EndUnderBoxes(const Settings&) {
             if (visit.options.givesActiveList) visit.actions.push_back(visit.answerBox);
             const Outcome outcome = visit.Run();
             Check(happened, "no box came up");
-            CheckOutcome(visit, outcome, outcome, Expected::AsUsual);
+            Check(outcome.result == (end.result == kSettingsAccepted ? box.accepted : end.result),
+                  "another result: " + std::to_string(outcome.result));
+            Check(outcome.activeCount == 0, "the filter stays in the chain");
+            CheckOutcome(visit, outcome, outcome, Expected::Any);
         }
     }
 }
