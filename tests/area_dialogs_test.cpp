@@ -290,33 +290,6 @@ TEST(AreaDialogs, OkRefusesAnInvalidAreaWhileItIsSwitchedOn) {
     }
 }
 
-TEST(AreaDialogs, OddSizesOfTheVideoAreSurvived) {
-    const struct {
-        SIZE video;
-        SIZE frame;
-        Record area;
-    } rows[] = {{{1, 1}, {1, 1}, {0, 0, 1, 1}},
-                {{0, 0}, {0, 0}, {0, 0, 1, 1}},
-                {{-5, -7}, {640, 480}, {0, 0, 1, 1}},
-                {{INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}, {0, 0, 1, 1}},
-                {{INT_MAX, INT_MAX}, {INT_MAX, INT_MIN}, {INT_MAX - 1, INT_MAX - 1, INT_MAX, INT_MAX}}};
-    for (const Member& member : kMembers) {
-        for (const auto& row : rows) {
-            SCOPED_TRACE(testing::Message() << static_cast<int>(member.effect) << " " << row.video.cx);
-            Record record = member.With({INT_MAX, INT_MAX, INT_MAX, INT_MAX});
-            record[member.switchField] = 0;
-            Session session(member.effect, record, row.video, row.frame);
-            session.Run([&](DialogDriver& dialog) {
-                EXPECT_EQ(AreaPushes(session).count, CallsPerPush(member));
-                dialog.Press({100, 10}, dialog.Child(11));
-                EXPECT_EQ(AreaPushes(session).count, CallsPerPush(member));
-                dialog.Key(VK_RETURN);
-            });
-            EXPECT_EQ(member.AreaOf(session.record), row.area);
-        }
-    }
-}
-
 // --- what single members do ---
 
 TEST(Offsets, AreTakenOffInTwoWays) {

@@ -62,11 +62,7 @@ void ReadAloud(HWND dialog) {
 }
 
 /// The list of "Deblocking Algorithm:".
-void DropList(HWND dialog) {
-    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) {
-        ::SendMessageW(dialog, message, 0, MAKELPARAM(260, 330));
-    }
-}
+void DropList(HWND dialog) { Click(dialog, 260, 330); }
 
 const std::vector<Scene>& Scenes() {
     static const std::vector<Scene> scenes = [] {

@@ -73,10 +73,6 @@ void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
     }
 }
 
-void Click(HWND dialog, int x, int y) {
-    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::SendMessageW(dialog, message, 0, MAKELPARAM(x, y));
-}
-
 void MakeOwner() {
     ::EnableWindow(g_owner, TRUE);
     if (::IsWindow(g_owner)) return;
@@ -98,6 +94,10 @@ PageEndRecord::PageEndRecord(const Record& values)
 }
 
 PageEndRecord::~PageEndRecord() { ::VirtualFree(m_pages, 0, MEM_RELEASE); }
+
+void Click(HWND dialog, int x, int y) {
+    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) ::SendMessageW(dialog, message, 0, MAKELPARAM(x, y));
+}
 
 void ClickEnable(HWND dialog) { Click(dialog, 40, 305); }
 

@@ -39,6 +39,7 @@ constexpr bool kExceptionsCrossModules = true;
 /// What the user does, one action per tick; the dialog is closed after the last.
 using Action = std::function<void(HWND dialog)>;
 
+void Click(HWND dialog, int x, int y);
 void ClickEnable(HWND dialog);
 void ClickSetAsDefault(HWND dialog);
 /// As the dialog's timer does after a while.
