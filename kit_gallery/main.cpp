@@ -250,8 +250,8 @@ bool CKitGalleryDlg::CreateControls() {
     AddText(L"Pop-up tip", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     Add<CSkinButton>(L"Point here", Cell(kNormal, row)).SetTipText(kTip);
     m_tipRow = row;
-    m_radios.Create(*this, {{kNoId, 0, L"This one", nullptr}, {kNoId, 1, L"Or that one", nullptr}}, 0);
-    m_radios.Place(Cell(kDisabled, row++).TopLeft(), {kColumnWidth, kItemWidth});
+    m_radios.Create(*this, {Cell(kDisabled, row++).TopLeft(), {kColumnWidth, kItemWidth}},
+                    {{kNoId, 0, L"This one", nullptr}, {kNoId, 1, L"Or that one", nullptr}}, 0);
     AddText(L"Heading", CRect(kLabelLeft, Cell(0, row).top, kFirstColumn, Cell(0, row).bottom));
     auto& heading = Add<CSkinHeading>(L"A group of controls", CRect(Cell(kNormal, row).TopLeft(), CSize(415, 20)));
     heading.SetFont(LabelFont());

@@ -1,10 +1,15 @@
 #include "skin/radio_group.h"
 
-bool CRadioGroup::Create(CSkinDialog& dialog, const std::vector<Choice>& choices, int value) {
+bool CRadioGroup::Create(CSkinDialog& dialog, const Places& places, const std::vector<Choice>& choices, int value) {
+    constexpr int kHeight = 20;
+    CPoint at = places.at;
     for (const Choice& choice : choices) {
+        const int width = places.widths[m_buttons.size()];
         CButton& button = *m_buttons.emplace_back(std::make_unique<CButton>(*this, choice.value));
         button.SetChecked(choice.value == value);
-        if (!dialog.AddItem(button, choice.text, choice.id, choice.help)) return false;
+        if (!dialog.AddItem(button, choice.text, choice.id, choice.help, CRect(at, CSize(width, kHeight))))
+            return false;
+        at.x += width + places.gap;
     }
     return true;
 }
@@ -22,12 +27,4 @@ void CRadioGroup::SetValue(int value) {
 
 void CRadioGroup::SetEnabled(bool enabled) {
     for (const auto& button : m_buttons) button->SetEnabled(enabled);
-}
-
-void CRadioGroup::Place(CPoint at, const std::vector<int>& widths, int gap) {
-    constexpr int kHeight = 20;
-    for (std::size_t index = 0; index < m_buttons.size(); ++index) {
-        m_buttons[index]->SetRect(CRect(at.x, at.y, at.x + widths[index], at.y + kHeight));
-        at.x += widths[index] + gap;
-    }
 }

@@ -17,15 +17,19 @@ public:
         LPCWSTR help;
     };
 
-    bool Create(CSkinDialog& dialog, const std::vector<Choice>& choices, int value);
+    /// From left to right, in the order of the choices.
+    struct Places {
+        CPoint at;
+        std::vector<int> widths;
+        int gap = 0;  ///< Between one button and the next, in pixels: a click there hits nothing.
+    };
+
+    bool Create(CSkinDialog& dialog, const Places& places, const std::vector<Choice>& choices, int value);
     /// Nothing where none is selected: the user can't clear a selection, but a value may be no choice.
     std::optional<int> Value() const;
     /// Selects the choice of a value; none for a value that is no choice.
     void SetValue(int value);
     void SetEnabled(bool enabled);
-    /// Places the buttons from left to right, in the order of the choices.
-    /// @param gap  Between one button and the next, in pixels: a click there hits nothing.
-    void Place(CPoint at, const std::vector<int>& widths, int gap = 0);
 
 private:
     class CButton : public CSkinRadioButton {

@@ -36,6 +36,7 @@ public:
     virtual void SetBackground(HDC background) = 0;
     /// The control's rectangle in the dialog's client coordinates.
     virtual CRect Bounds() const = 0;
+    virtual void SetBounds(const CRect& bounds) = 0;
     /// Draws a windowless control onto the dialog. Child windows are painted by the system.
     virtual void Draw() {}
     /// Receives the dialog's mouse messages with the point in client coordinates.

@@ -67,21 +67,21 @@ END_MESSAGE_MAP()
 
 CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header, &m_owner); }
 
-void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) {
-    m_controls.push_back({&control, help});
+void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help, const CRect& place) {
+    m_controls.push_back({&control, help, place});
     control.SetSite(this);
 }
 
-bool CSkinDialog::AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help) {
-    if (!item.Create(text, this, CRect(0, 0, 0, 0), id)) return false;
-    AddControl(item, help);
+bool CSkinDialog::AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help, const CRect& place) {
+    if (!item.Create(text, this, kNoPlace, id)) return false;
+    AddControl(item, help, place);
     return true;
 }
 
-bool CSkinDialog::AddLabel(CSkinStatic& label, LPCWSTR text) {
+bool CSkinDialog::AddLabel(CSkinStatic& label, LPCWSTR text, const CRect& place) {
     label.SetFont(LabelFont());
     label.SetLeftAligned(true);
-    return AddItem(label, text, kLabelId);
+    return AddItem(label, text, kLabelId, nullptr, place);
 }
 
 int CSkinDialog::OnCreate(LPCREATESTRUCT create) {
@@ -209,6 +209,9 @@ void CSkinDialog::SetSkinBackground(HDC background) {
 }
 
 void CSkinDialog::LayoutControls() {
+    for (const Entry& entry : m_controls) {
+        if (!entry.place.IsRectEmpty()) entry.control->SetBounds(entry.place);
+    }
     const CRect client = ClientRect();
     const auto place = [](CSkinButton& button, int x, int y, int width, int height) {
         button.SetRect(CRect(x, y, x + width, y + height));

@@ -17,21 +17,25 @@
 
 class CSkinDialog : public CGuarded<CDialog>, public CControlSite {
 public:
+    inline static const CRect kNoPlace{0, 0, 0, 0};
+
     struct Entry {
         CSkinControl* control;
         LPCWSTR help;
+        CRect place;  ///< In client coordinates; an empty one is left to LayoutControls.
     };
 
     CSkinDialog();
 
     /// Adds a control to the list that the background, painting and mouse messages are handed to, in the order of
     /// adding. The control must live as long as the dialog.
-    /// @param help  What the help panel says while the pointer is over the control; null for nothing. A literal.
-    void AddControl(CSkinControl& control, LPCWSTR help = nullptr);
-    /// Creates an item with an empty rectangle and adds it.
-    bool AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help = nullptr);
+    /// @param help   What the help panel says while the pointer is over the control; null for nothing. A literal.
+    /// @param place  Where it stands whatever the window's size is; empty where that depends on the size.
+    void AddControl(CSkinControl& control, LPCWSTR help = nullptr, const CRect& place = kNoPlace);
+    /// Creates an item and adds it.
+    bool AddItem(CSkinItem& item, LPCWSTR text, UINT id, LPCWSTR help = nullptr, const CRect& place = kNoPlace);
     /// Adds a label as all dialogs have them.
-    bool AddLabel(CSkinStatic& label, LPCWSTR text);
+    bool AddLabel(CSkinStatic& label, LPCWSTR text, const CRect& place = kNoPlace);
     /// All controls in the order of adding.
     const std::vector<Entry>& Controls() const { return m_controls; }
     CFocusRing& FocusRing() { return m_focus; }
@@ -50,7 +54,7 @@ protected:
     // Both create controls once the window exists; a false makes the dialog's creation fail.
     virtual bool CreateStandardControls();          ///< What all dialogs of a kind have.
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
-    /// Places the controls; runs after every change of the size.
+    /// Places the controls at every change of the size: those that were added with a place, and the frame's own.
     virtual void LayoutControls();
     virtual void SetSkinBackground(HDC background);
     /// Draws the controls that touch an area.

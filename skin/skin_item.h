@@ -25,6 +25,7 @@ public:
 
     void SetBackground(HDC background) override { m_background = background; }
     CRect Bounds() const override { return m_rect; }
+    void SetBounds(const CRect& bounds) override { SetRect(bounds); }
     /// Nothing happens for an item that is disabled or invisible or whose parent is gone.
     void HandleMouse(UINT message, CPoint point) override;
     /// Draws the item onto its parent. Nothing happens while either of them is not to be seen.

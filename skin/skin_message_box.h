@@ -15,6 +15,7 @@ public:
     void ClickAtStart();
     void SetBackground(HDC) override {}
     CRect Bounds() const override;
+    void SetBounds(const CRect& bounds) override { MoveWindow(bounds); }
     bool TakesFocus() const override { return true; }
     HWND FocusWindow() const override { return m_hWnd; }
     ControlFacts Facts() const override;

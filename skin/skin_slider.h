@@ -39,6 +39,7 @@ public:
 
     void SetBackground(HDC background) override { m_background = background; }
     CRect Bounds() const override;
+    void SetBounds(const CRect& bounds) override { MoveWindow(bounds); }
 
     // The window itself handles no keys: the dialog, which has them, calls these.
     bool TakesFocus() const override;

@@ -1,9 +1,12 @@
 // All dialogs: window, moniker, first push, every control, "Set as default", OK and Cancel.
 #include <algorithm>
+#include <climits>
+#include <random>
 
 #include <gtest/gtest.h>
 
 #include "area_dialog_rows.h"
+#include "effect_settings/apply_settings.h"
 #include "plain_dialog_rows.h"
 #include "support/dialog_session.h"
 
@@ -69,6 +72,46 @@ TEST(AllDialogs, TheFirstPushAndAnUntouchedOkFollowTheRecord) {
             EXPECT_EQ(session.result, 1);
             EXPECT_EQ(session.record, opening.saved);
         }
+    }
+}
+
+/// What ApplySettings sends to a filter of an effect.
+std::string Applied(EffectId effect, const Record& record, SIZE video, SIZE frame, HostOptions options = {}) {
+    RecordingHost host(effect, options);
+    ComPtr<IUnknown> filter;
+    host.GetProcessorObject(kVideoProcessorKind, filter.GetAddressOf());
+    Record kept = record;
+    const bool sent =
+        effect_settings::ApplySettings(filter.Get(), effect, kept.data(), {video.cx, video.cy}, {frame.cx, frame.cy});
+    EXPECT_EQ(sent, options.filterHasInterface);
+    EXPECT_EQ(kept, record);
+    return PushesIn(host.Calls().Take());
+}
+
+TEST(AllDialogs, ApplySettingsSendsWhatAnOpenedDialogSendsFirst) {
+    const struct {
+        SIZE video;
+        SIZE frame;
+    } sizes[] = {{{720, 480}, {360, 240}}, {{3, 1}, {INT_MAX, 7}}, {{0, -5}, {640, 480}}, {{INT_MIN, 2}, {INT_MIN, 0}}};
+    std::mt19937 random(1);
+    for (const DialogRow& row : AllDialogRows()) {
+        SCOPED_TRACE(row.effect.name);
+        const EffectId id = row.effect.id;
+        for (const Opening& opening : row.openings) {
+            EXPECT_EQ(Applied(id, opening.record, {720, 480}, {360, 240}), opening.push);
+        }
+        for (const auto& [video, frame] : sizes) {
+            Record record = row.effect.defaults;
+            for (std::int32_t& field : record) {
+                const std::int32_t hostile[] = {
+                    INT_MIN, -719, -1, 0, 1, 2, 90, 720, 0x1000007, INT_MAX, static_cast<std::int32_t>(random())};
+                field = hostile[random() % std::size(hostile)];
+            }
+            SCOPED_TRACE(testing::PrintToString(record) + " of " + std::to_string(video.cx));
+            Session session(id, record, video, frame);
+            session.Run([&](DialogDriver&) { EXPECT_EQ(session.Pushes(), Applied(id, record, video, frame)); });
+        }
+        EXPECT_EQ(Applied(id, row.effect.defaults, {}, {}, {.filterHasInterface = false}), "");
     }
 }
 

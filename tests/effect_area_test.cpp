@@ -2,10 +2,14 @@
 #include <climits>
 #include <ostream>
 
+#include <afxwin.h>
+
 #include <gtest/gtest.h>
 
-#include "effects/parts/effect_area.h"
+#include "effect_settings/apply_settings.h"
 #include "effects/parts/number_edit.h"
+
+using namespace effect_settings;
 
 std::ostream& operator<<(std::ostream& out, const RECT& rect) {
     return out << "(" << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom << ")";
@@ -16,7 +20,7 @@ namespace {
 TEST(EffectArea, IsClampedFromAboveOnly) {
     const struct {
         RECT area;
-        SIZE video;
+        VideoSize video;
         RECT clamped;
     } rows[] = {
         {{5, 5, 0, 0}, {640, 480}, {0, 0, 1, 1}},
@@ -36,7 +40,7 @@ TEST(EffectArea, IsClampedFromAboveOnly) {
 TEST(EffectArea, IsValidWhenItHoldsAPixelOfTheVideo) {
     const struct {
         RECT area;
-        SIZE video;
+        VideoSize video;
         bool valid;
     } rows[] = {
         {{0, 0, 640, 480}, {640, 480}, true},
@@ -62,28 +66,25 @@ TEST(EffectArea, IsValidWhenItHoldsAPixelOfTheVideo) {
 TEST(EffectArea, IsScaledByTruncationToAtLeastOnePixel) {
     const struct {
         RECT area;
-        SIZE video;
-        SIZE frame;
+        Sizes sizes;
         RECT scaled;
     } rows[] = {
-        {{3, 5, 1, 1}, {640, 480}, {320, 240}, {1, 2, 1, 1}},
-        {{-3, -5, 3, 5}, {640, 480}, {320, 240}, {-1, -2, 1, 2}},
-        {{-10, -10, 100, 100}, {640, 480}, {1280, 960}, {-20, -20, 200, 200}},
-        {{0, 0, 640, 480}, {640, 480}, {720, 576}, {0, 0, 720, 576}},
-        {{1, 1, 2, 2}, {3, 3}, {2, 2}, {0, 0, 1, 1}},
-        {{-10, -10, -5, -5}, {640, 480}, {640, 480}, {-10, -10, 1, 1}},
-        {{5, 5, 9, 9}, {640, 480}, {0, 0}, {0, 0, 1, 1}},
-        {{5, -5, 9, 9}, {0, 0}, {640, 480}, {INT_MIN, INT_MIN, 1, 1}},
-        {{0, 0, 0, 0}, {0, 0}, {0, 0}, {INT_MIN, INT_MIN, 1, 1}},
+        {{3, 5, 1, 1}, {{640, 480}, {320, 240}}, {1, 2, 1, 1}},
+        {{-3, -5, 3, 5}, {{640, 480}, {320, 240}}, {-1, -2, 1, 2}},
+        {{-10, -10, 100, 100}, {{640, 480}, {1280, 960}}, {-20, -20, 200, 200}},
+        {{0, 0, 640, 480}, {{640, 480}, {720, 576}}, {0, 0, 720, 576}},
+        {{1, 1, 2, 2}, {{3, 3}, {2, 2}}, {0, 0, 1, 1}},
+        {{-10, -10, -5, -5}, {{640, 480}, {640, 480}}, {-10, -10, 1, 1}},
+        {{5, 5, 9, 9}, {{640, 480}, {0, 0}}, {0, 0, 1, 1}},
+        {{5, -5, 9, 9}, {{0, 0}, {640, 480}}, {INT_MIN, INT_MIN, 1, 1}},
+        {{0, 0, 0, 0}, {{0, 0}, {0, 0}}, {INT_MIN, INT_MIN, 1, 1}},
         {{INT_MIN, INT_MIN, INT_MAX, INT_MAX},
-         {INT_MAX, INT_MAX},
-         {INT_MAX, INT_MAX},
+         {{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}},
          {INT_MIN, INT_MIN, INT_MAX, INT_MAX}},
-        {{INT_MIN, INT_MAX, INT_MAX, INT_MAX}, {1, 1}, {2, 2}, {INT_MIN, INT_MIN, 1, 1}},
-        {{7, 7, 8, 8}, {-1, -1}, {1, 1}, {-7, -7, 1, 1}},
+        {{INT_MIN, INT_MAX, INT_MAX, INT_MAX}, {{1, 1}, {2, 2}}, {INT_MIN, INT_MIN, 1, 1}},
+        {{7, 7, 8, 8}, {{-1, -1}, {1, 1}}, {-7, -7, 1, 1}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(CRect(ScaleEffectArea(row.area, row.video, row.frame)), CRect(row.scaled)) << row.area;
+    for (const auto& row : rows) EXPECT_EQ(CRect(ScaleEffectArea(row.area, row.sizes)), CRect(row.scaled)) << row.area;
 }
 
 TEST(EffectArea, EdgesAreReadUpToTheFirstOtherCharacter) {

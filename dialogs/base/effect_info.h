@@ -10,6 +10,7 @@ struct EffectInfo {
     LPCWSTR title;
     int width;  ///< Of the dialog, in pixels.
     int height;
+    int helpTop;          ///< From there down to the buttons the help panel stands.
     LPCWSTR description;  ///< Help text of the "Enable" check box.
     ChainKind chain = ChainKind::Video;
 };

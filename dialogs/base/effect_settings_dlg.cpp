@@ -34,6 +34,7 @@ CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const CLSID& filt
     : m_info(info),
       m_propertyInterface(propertyInterface),
       m_options(options),
+      m_sizes{{g_VideoWidth, g_VideoHeight}, {g_FrameWidth, g_FrameHeight}},
       m_moniker(MonikerOf(filterClass, info.chain)) {}
 
 bool CEffectSettingsDlg::CreateStandardControls() {
@@ -46,7 +47,7 @@ bool CEffectSettingsDlg::CreateStandardControls() {
 
 bool CEffectSettingsDlg::CreateEnable(std::int32_t checked) {
     m_enable.SetChecked(checked != 0);
-    return AddItem(m_enable, L"Enable", kEnableId, m_info.description);
+    return AddItem(m_enable, L"Enable", kEnableId, m_info.description, At(10, 295, 70));
 }
 
 void CEffectSettingsDlg::LayoutControls() {
@@ -54,17 +55,12 @@ void CEffectSettingsDlg::LayoutControls() {
     const CRect client = ClientRect();
     m_defaultButton.SetRect(CRect(10, client.bottom - 29, 140, client.bottom - 10));
     m_preview.MoveWindow(1, 35, client.right - 3, 240);
-    m_enable.SetRect(At(10, 295, 70));
-}
-
-CRect CEffectSettingsDlg::HelpRectBelow(int top) const {
-    const CRect client = ClientRect();
-    return CRect(20, top, client.right - 20, client.bottom - 40);
+    m_helpRect.SetRect(20, m_info.helpTop, client.right - 20, client.bottom - 40);
 }
 
 BOOL CEffectSettingsDlg::OnOpening() {
     CString size;
-    if (m_options.titleHasSize) size.Format(L"(%dx%d)", g_VideoWidth, g_VideoHeight);
+    if (m_options.titleHasSize) size.Format(L"(%dx%d)", m_sizes.video.width, m_sizes.video.height);
     PlaceWindow(m_info.width, m_info.height, m_info.title + size);
     if (m_options.firstSync == FirstSync::BeforeAttach) SyncControls();
     const bool attached = AttachFilter();

@@ -10,6 +10,7 @@
 #include <afxwin.h>
 
 #include "dialogs/base/effect_info.h"
+#include "effect_settings/apply_settings.h"
 #include "host/com_ptr.h"
 #include "skin/combo_list_box.h"
 #include "skin/skin_check_box.h"
@@ -32,7 +33,7 @@ protected:
     CEffectSettingsDlg(const EffectInfo& info, const CLSID& filterClass, const IID& propertyInterface,
                        const EffectDialogOptions& options);
 
-    // What a dialog states of its own: CreateControls and LayoutControls, then these.
+    // What a dialog states of its own: CreateControls, then these.
 
     virtual void SyncControls() {}            ///< The enable rules.
     virtual void ApplyToFilter() {}           ///< One push of all values; does nothing without a filter.
@@ -40,8 +41,8 @@ protected:
     virtual void SaveSettings() {}            ///< Writes the caller's record.
     virtual void ResetToDefaults() {}         ///< "Set as default": back to the effect's defaults, and a push.
     virtual void OnEnableClicked() { SyncAndApply(); }
-    virtual void OnClicked(UINT /*id*/) { ApplyToFilter(); }  ///< One of the effect's own boxes and buttons.
-    virtual void OnPicked(const void* /*list*/) {}            ///< A row of a drop-down list.
+    virtual void OnClicked(UINT /*id*/) {}          ///< One of the effect's own boxes and buttons.
+    virtual void OnPicked(const void* /*list*/) {}  ///< A row of a drop-down list.
 
     /// The filter's property interface; null until attached, without a host, and once the window is gone.
     const ComPtr<IUnknown>& PropertyInterface() const { return m_filter; }
@@ -53,11 +54,12 @@ protected:
     /// Creates the check box that every effect has first, with the effect's description as its help.
     bool CreateEnable(std::int32_t checked);
     void SyncAndApply();
+    int Width() const { return m_info.width; }
+    const effect_settings::Sizes& VideoSizes() const { return m_sizes; }
 
+    static constexpr int kRowHeight = 20;
     /// A rectangle as tall as a row of controls, in client coordinates.
     static CRect At(int x, int y, int width) { return CRect(x, y, x + width, y + kRowHeight); }
-    /// The help panel's place from a top edge down to the buttons.
-    CRect HelpRectBelow(int top) const;
 
     void LayoutControls() override;
     void PaintControls(const CRect& area) override;
@@ -80,11 +82,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     CSkinCheckBox m_enable;
-    CRect m_helpRect{0, 0, 0, 0};  ///< An empty one shows no help.
 
 private:
-    static constexpr int kRowHeight = 20;
-
     bool AttachFilter();
     void DetachFilter();
     bool Hears(UINT notification, UINT id) const;
@@ -94,11 +93,13 @@ private:
     const EffectInfo& m_info;
     const IID& m_propertyInterface;
     const EffectDialogOptions m_options;
+    const effect_settings::Sizes m_sizes;
     const CBstr m_moniker;  // Made at construction: closing must not need memory.
     ComPtr<IUnknown> m_filter;
     IMediaHost* m_opening = nullptr;  // The host while the dialog opens; null again once its window is gone.
     CWnd m_preview;
     CSkinButton m_defaultButton;
+    CRect m_helpRect{0, 0, 0, 0};  // An empty one shows no help.
     CString m_helpText;
     std::vector<std::pair<UINT, UINT>> m_heard;  // Notification and id.
     CPoint m_pointer{LONG_MIN, LONG_MIN};        // Where the pointer was last seen, on the screen.

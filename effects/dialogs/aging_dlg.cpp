@@ -6,24 +6,10 @@
 
 namespace {
 
-// Radio groups are saved as their choice's number; filters get the bit of that number.
+// Colour modes are saved as their choice's number.
 constexpr int kRandomColor = 0;
 constexpr int kOriginalColor = 1;
 constexpr int kCustomColor = 2;
-
-/// The settings of dust or of pits: both look and work alike.
-struct Specks {
-    CSkinCheckBox on;
-    CSkinHeading line;
-    CSkinCheckBox random;
-    CSkinCheckBox randomDensity;
-    CSkinCheckBox always;
-    CValueSlider density;
-    CSkinStatic colorsLabel;
-    CRadioGroup colors;
-    CSkinButton setColor;
-    CColorSwatch color;
-};
 
 /// A control's text and help.
 struct Wording {
@@ -43,7 +29,7 @@ struct SpecksFields {
     Field color;
 };
 
-/// What differs between dust and pits.
+/// What differs between dust and pits: both look and work alike.
 struct SpecksSetup {
     UINT firstId;  ///< The others follow in the order of the controls.
     SpecksFields fields;
@@ -51,6 +37,7 @@ struct SpecksSetup {
     Wording random;
     LPCWSTR randomDensityHelp;
     Wording always;
+    effect_settings::Range densityRange;
     Wording density;
     LPCWSTR colorsLabel;
     LPCWSTR randomColorHelp;
@@ -73,6 +60,7 @@ constexpr SpecksSetup kDust = {
     .always = {L"Always add dust",
                L"If checked, dust should appear in every frame, if un-checked, dust should be "
                L"added to random frames."},
+    .densityRange = kAgingDustDensity,
     .density = {L"Dust density(%d - %d):",
                 L"Controls the density of the dust added on the video. Used only if Random density is checked. "},
     .colorsLabel = L"Dust Colors:",
@@ -95,6 +83,7 @@ constexpr SpecksSetup kPits = {
     .always = {L"Always add pits",
                L"If checked, Pits should appear in every frame, if un-checked, Pits should be "
                L"added to random frames."},
+    .densityRange = kAgingPitsDensity,
     .density = {L"Pits density(%d - %d):",
                 L"Controls the density of the Pits added on the video. Used only if Random density is checked."},
     .colorsLabel = L"Pits Colors:",
@@ -105,202 +94,129 @@ constexpr SpecksSetup kPits = {
     .colorHelp = L"Custom Pits Color."};
 
 class CAgingDlg : public CAreaDlg<EffectId::Aging> {
+    // Two columns of two groups each: the colours and the area, the scratches; dust and pits.
     bool CreateControls() override {
-        return AddEnable() &&
-               AddSlider(m_maxScratches, &AgingSettings::maxScratches,
-                         {11, L"Maximum number of scratches(%d - %d):", 0, 100,
-                          L"Set the Max number of scratch lines in a frame."}) &&
-               AddCheckBox(m_oldColor, &AgingSettings::oldColor,
-                           {14, L"Enable Old Color", L"Indicates whether to apply the old style movie colors."}) &&
-               AddLabel(m_oldColorLine, L"") &&
-               AddArea({.heading = L"Enable Video Aging Effect on below Area:",
+        const FieldNeeds scratches = {{&Settings::enabled, 1}, {&Settings::scratches, 1}};
+        CValueSlider::Places tooLong = SliderRow(kRight, 366);  // To stand beside its slider.
+        tooLong.label = At(kRight, 342, kColumnWidth);
+        return AddSlider(&Settings::maxScratches, tooLong,
+                         {11, L"Maximum number of scratches(%d - %d):", kAgingMaxScratches,
+                          L"Set the Max number of scratch lines in a frame."},
+                         scratches) &&
+               AddGroup(&Settings::oldColor, {kLeft, 318}, 122,
+                        {14, L"Enable Old Color", L"Indicates whether to apply the old style movie colors."}) &&
+               AddArea({kLeft, 365}, kColumnWidth,
+                       {.heading = L"Enable Video Aging Effect on below Area:",
                         .switchHelp = L"Enable Video Aging Effect on below Area:"}) &&
                AddRadioGroup(
-                   m_channel, &AgingSettings::channel,
+                   &Settings::channel, {{kLeft, 340}, {38, 81, 81, 81, 84}},
                    {{23, 0, L"All", L"The aging effect is applied to all channels."},
                     {24, 1, L"Channel 1", L"First channel is used in generating the aging effect."},
                     {25, 2, L"Channel 2", L"Second channel is used in generating the aging effect."},
                     {26, 3, L"Channel 3", L"Third channel is used in generating the aging effect."},
                     {27, 4, L"Luminence",
-                     L"Luminance is calculated from the three channels and is used in generating the aging "
-                     L"effect."}}) &&
-               AddCheckBox(m_scratches, &AgingSettings::scratches,
-                           {28, L"Enable Scratches", L"If checked, will add scratch lines on the video."}) &&
-               AddLabel(m_scratchesLine, L"") &&
-               AddSlider(m_scratchHeight, &AgingSettings::scratchHeight,
-                         {29, L"Scratch height(%d - %d):", 1, 1600, L"Set the Max scratch height."}) &&
-               AddSpecks(m_dust, kDust) && AddSpecks(m_pits, kPits);
+                     L"Luminance is calculated from the three channels and is used in generating the aging effect."}},
+                   {{&Settings::enabled, 1}, {&Settings::oldColor, 1}}) &&
+               AddGroup(&Settings::scratches, {kRight, 318}, 126,
+                        {28, L"Enable Scratches", L"If checked, will add scratch lines on the video."}) &&
+               AddSlider(&Settings::scratchHeight, SliderRow(kRight, 394),
+                         {29, L"Scratch height(%d - %d):", kAgingScratchHeight, L"Set the Max scratch height."},
+                         scratches) &&
+               AddSpecks(m_dust, kDust, {kLeft, 447}) && AddSpecks(m_pits, kPits, {kRight, 447});
     }
 
-    bool AddSpecks(Specks& specks, const SpecksSetup& setup) {
-        const auto addBox = [&](CSkinCheckBox& box, UINT offset, SettingsField field, const Wording& words) {
-            return AddCheckBox(box, field, {setup.firstId + offset, words.text, words.help});
-        };
-        CColorSwatch& color = specks.color;
-        color.SetColor(static_cast<COLORREF>(m_settings->*setup.fields.color) & 0xFFFFFF);
-        Bind(setup.fields.color, {.get = [&color] { return static_cast<int>(color.Color()); },
-                                  .set = [&color](int value) { color.SetColor(static_cast<COLORREF>(value)); },
-                                  .control = &color});
-        Hear(setup.firstId + 8);
+    /// A group's switch, and a line from it to the column's right edge.
+    bool AddGroup(SettingsField field, CPoint at, int boxWidth, const ItemSetup& setup) {
+        return AddCheckBox(field, At(at.x, at.y, boxWidth), setup) &&
+               AddHeading(At(at.x + boxWidth, at.y, kColumnWidth - boxWidth), L"");
+    }
+
+    struct CustomColor {
+        CSkinButton set;
+        CColorSwatch swatch;
+    };
+
+    bool AddSpecks(CustomColor& custom, const SpecksSetup& setup, CPoint at) {
         const SpecksFields& fields = setup.fields;
-        return addBox(specks.on, 0, fields.on, setup.on) && AddLabel(specks.line, L"") &&
-               addBox(specks.random, 1, fields.random, setup.random) &&
-               addBox(specks.randomDensity, 2, fields.randomDensity, {L"Random density", setup.randomDensityHelp}) &&
-               addBox(specks.always, 3, fields.always, setup.always) &&
-               AddSlider(specks.density, fields.density,
-                         {setup.firstId + 4, setup.density.text, 0, 100, setup.density.help}) &&
-               AddLabel(specks.colorsLabel, setup.colorsLabel) &&
-               AddRadioGroup(specks.colors, fields.colorMode,
-                             {{setup.firstId + 5, kRandomColor, L"Random", setup.randomColorHelp},
-                              {setup.firstId + 6, kOriginalColor, L"Original", setup.originalColorHelp},
-                              {setup.firstId + 7, kCustomColor, L"Custom", setup.customColorHelp}}) &&
-               AddItem(specks.setColor, L"Set Color...", setup.firstId + 8, setup.setColorHelp) &&
-               AddItem(specks.color, L"", setup.firstId + 9, setup.colorHelp);
+        const UINT id = setup.firstId;
+        const auto addBox =
+            [&](SettingsField field, UINT offset, int x, const Wording& words, const FieldNeeds& needs) {
+                return AddCheckBox(field, At(at.x + x, at.y + 22, 120), {id + offset, words.text, words.help}, needs);
+            };
+        // Random dust (or pits) leaves nothing else of its group to set; a random density leaves none to set; and a
+        // colour is set only where it is used.
+        const FieldNeeds added = {{&Settings::enabled, 1}, {fields.on, 1}};
+        const FieldNeeds tuned = {{&Settings::enabled, 1}, {fields.on, 1}, {fields.random, 0}};
+        const auto tunedAnd = [tuned](const FieldNeed& need) {
+            FieldNeeds needs = tuned;
+            needs.push_back(need);
+            return needs;
+        };
+        return AddGroup(fields.on, at, 94, {id, setup.on.text, setup.on.help}) &&
+               AddCheckBox(
+                   fields.random, At(at.x, at.y + 22, 110), {id + 1, setup.random.text, setup.random.help}, added) &&
+               addBox(fields.randomDensity, 2, 120, {L"Random density", setup.randomDensityHelp}, tuned) &&
+               addBox(fields.always, 3, 245, setup.always, tuned) &&
+               AddSlider(fields.density, SliderRow(at.x, at.y + 43),
+                         {id + 4, setup.density.text, setup.densityRange, setup.density.help},
+                         tunedAnd({fields.randomDensity, 0})) &&
+               AddText(At(at.x, at.y + 64, 80), setup.colorsLabel) &&
+               AddRadioGroup(fields.colorMode, {{at.x + 120, at.y + 64}, {80, 80, 80}},
+                             {{id + 5, kRandomColor, L"Random", setup.randomColorHelp},
+                              {id + 6, kOriginalColor, L"Original", setup.originalColorHelp},
+                              {id + 7, kCustomColor, L"Custom", setup.customColorHelp}},
+                             tuned) &&
+               AddColor(custom, setup, {at.x + 120, at.y + 85}, tunedAnd({fields.colorMode, kCustomColor}));
     }
 
-    // Two columns of two groups each: the colours and the area, the scratches; dust and pits.
-    void LayoutControls() override {
-        CAreaDlg::LayoutControls();
-        PlaceGroup(m_oldColor, m_oldColorLine, {kLeft, 318}, 122);
-        m_channel.Place({kLeft, 340}, {38, 81, 81, 81, 84});
-        m_area.Place({kLeft, 365}, kColumnWidth);
-
-        PlaceGroup(m_scratches, m_scratchesLine, {kRight, 318}, 126);
-        CValueSlider::Places places = SliderRow(kRight, 366);
-        places.label = At(kRight, 342, kColumnWidth);  // Too long to stand beside its slider.
-        m_maxScratches.Place(places);
-        m_scratchHeight.Place(SliderRow(kRight, 394));
-
-        PlaceSpecks(m_dust, kLeft, 447);
-        PlaceSpecks(m_pits, kRight, 447);
-        m_helpRect = HelpRectBelow(560);
-    }
-
-    void PlaceSpecks(Specks& specks, int x, int y) {
-        PlaceGroup(specks.on, specks.line, {x, y}, 94);
-        specks.random.SetRect(At(x, y + 22, 110));
-        specks.randomDensity.SetRect(At(x + 120, y + 22, 120));
-        specks.always.SetRect(At(x + 245, y + 22, 120));
-        specks.density.Place(SliderRow(x, y + 43));
-        specks.colorsLabel.SetRect(At(x, y + 64, 80));
-        specks.colors.Place({x + 120, y + 64}, {80, 80, 80});
-        specks.setColor.SetRect(At(x + 120, y + 85, 100));
-        specks.color.SetRect(At(x + 230, y + 85, 60));
+    bool AddColor(CustomColor& custom, const SpecksSetup& setup, CPoint at, const FieldNeeds& needs) {
+        CColorSwatch& swatch = custom.swatch;
+        swatch.SetColor(static_cast<COLORREF>(m_settings->*setup.fields.color) & 0xFFFFFF);
+        Bind(setup.fields.color,
+             {.get = [&swatch] { return static_cast<int>(swatch.Color()); },
+              .set = [&swatch](int value) { swatch.SetColor(static_cast<COLORREF>(value)); },
+              .enable = [&swatch](bool on) { swatch.SetEnabled(on); },
+              .control = &swatch},
+             needs);
+        AddRule([&custom](bool on) { custom.set.SetEnabled(on); }, Of(needs));
+        Hear(setup.firstId + 8);
+        return AddItem(custom.set, L"Set Color...", setup.firstId + 8, setup.setColorHelp, At(at.x, at.y, 100)) &&
+               AddItem(swatch, L"", setup.firstId + 9, setup.colorHelp, At(at.x + 110, at.y, 60));
     }
 
     static CValueSlider::Places SliderRow(int x, int y) {
         return {At(x, y + 1, 150), At(x + 155, y, 165), At(x + 330, y + 1, 35)};
     }
-    /// A group's switch, and a line from it to the column's right edge.
-    static void PlaceGroup(CSkinCheckBox& box, CSkinHeading& line, CPoint at, int boxWidth) {
-        box.SetRect(At(at.x, at.y, boxWidth));
-        line.SetRect(At(at.x + boxWidth, at.y, kColumnWidth - boxWidth));
-    }
 
-    void SyncControls() override {
-        const bool on = m_enable.IsChecked();
-        m_area.SetEnabled(on);
-        m_oldColor.SetEnabled(on);
-        m_scratches.SetEnabled(on);
-        m_dust.on.SetEnabled(on);
-        m_pits.on.SetEnabled(on);
-        SyncChannels();
-        SyncScratches();
-        SyncSpecks(m_dust);
-        SyncSpecks(m_pits);
-    }
-
-    void SyncChannels() { m_channel.SetEnabled(m_enable.IsChecked() && m_oldColor.IsChecked()); }
-
-    void SyncScratches() {
-        const bool added = m_enable.IsChecked() && m_scratches.IsChecked();
-        m_maxScratches.Enable(added);
-        m_scratchHeight.Enable(added);
-    }
-
-    /// Random dust (or pits) leaves nothing else of its group to set; a random density leaves none to set; and a colour
-    /// is set only where it is used.
-    void SyncSpecks(Specks& specks) {
-        const bool added = m_enable.IsChecked() && specks.on.IsChecked();
-        const bool tuned = added && !specks.random.IsChecked();
-        const bool custom = tuned && specks.colors.Value() == kCustomColor;
-        specks.random.SetEnabled(added);
-        specks.randomDensity.SetEnabled(tuned);
-        specks.always.SetEnabled(tuned);
-        specks.density.Enable(tuned && !specks.randomDensity.IsChecked());
-        specks.colors.SetEnabled(tuned);
-        specks.setColor.SetEnabled(custom);
-        specks.color.SetEnabled(custom);
-    }
-
-    /// Each box or button brings its own group in line, and no other.
     void OnClicked(UINT id) override {
-        if (id == m_oldColor.Id()) SyncChannels();
-        if (id == m_scratches.Id()) SyncScratches();
-        for (Specks* specks : {&m_dust, &m_pits}) {
-            if (id == specks->setColor.Id()) {
-                PickColor(*specks);
-            } else if (id >= specks->on.Id() && id < specks->setColor.Id() && id != specks->always.Id()) {
-                SyncSpecks(*specks);
-            }
+        for (CustomColor* custom : {&m_dust, &m_pits}) {
+            if (id == custom->set.Id()) PickColor(custom->swatch);
         }
         CAreaDlg::OnClicked(id);
     }
 
-    void PickColor(Specks& specks) {
-        CColorDialog dialog(specks.color.Color(), 0, this);
-        if (dialog.DoModal() == IDOK) specks.color.SetColor(dialog.GetColor());
+    void PickColor(CColorSwatch& swatch) {
+        CColorDialog dialog(swatch.Color(), 0, this);
+        if (dialog.DoModal() == IDOK) swatch.SetColor(dialog.GetColor());
     }
 
-    void ApplyToFilter() override {
-        Put(&IEffectAging::put_Enable, m_enable);
-        PutArea(InvalidArea::SendAsIs, AreaSwitch::BeforeEdges);
-        Put(&IEffectAging::put_OldColor, m_oldColor);
-        if (const auto channel = m_channel.Value()) Put(&IEffectAging::put_Channel, 1 << *channel);
-        Put(&IEffectAging::put_Scratches, m_scratches);
-        Put(&IEffectAging::put_MaxScratches, m_maxScratches);
-        Put(&IEffectAging::put_ScratchHeight, m_scratchHeight);
-        Put(&IEffectAging::put_Dust, m_dust.on);
-        Put(&IEffectAging::put_RandomDust, m_dust.random);
-        Put(&IEffectAging::put_DustRandomDensity, m_dust.randomDensity);
-        Put(&IEffectAging::put_AlwaysAddDust, m_dust.always);
-        Put(&IEffectAging::put_DustDensity, m_dust.density);
-        if (const auto mode = m_dust.colors.Value()) Put(&IEffectAging::put_DustColorMode, 1 << *mode);
-        Put(&IEffectAging::put_DustColor, static_cast<LONG>(m_dust.color.Color()));
-        Put(&IEffectAging::put_Pits, m_pits.on);
-        Put(&IEffectAging::put_RandomPits, m_pits.random);
-        Put(&IEffectAging::put_PitsRandomDensity, m_pits.randomDensity);
-        Put(&IEffectAging::put_AlwaysAddPits, m_pits.always);
-        Put(&IEffectAging::put_PitsDensity, m_pits.density);
-        if (const auto mode = m_pits.colors.Value()) Put(&IEffectAging::put_PitsColorMode, 1 << *mode);
-        Put(&IEffectAging::put_PitsColor, static_cast<LONG>(m_pits.color.Color()));
-    }
-
-    void SetDefaults() override {
-        // Here the area comes right after "Enable"; each of its edges that is filled pushes what else is set so far.
-        m_enable.SetChecked(kDefaults.enabled != 0);
-        SetDefaultArea();
-        CRecordDlg::SetDefaults();  // NOLINT(bugprone-parent-virtual-call): without the area.
+    // Here the area comes right after "Enable".
+    std::vector<const std::int32_t*> FirstDefaults() const override {
+        return {&m_settings->enabled, &m_settings->areaEnabled, &m_settings->left,
+                &m_settings->top,     &m_settings->right,       &m_settings->bottom};
     }
 
     static constexpr int kLeft = 20;
     static constexpr int kRight = 415;
     static constexpr int kColumnWidth = 365;
 
-    CSkinCheckBox m_oldColor;
-    CSkinHeading m_oldColorLine;
-    CRadioGroup m_channel;
-    CSkinCheckBox m_scratches;
-    CSkinHeading m_scratchesLine;
-    CValueSlider m_maxScratches;
-    CValueSlider m_scratchHeight;
-    Specks m_dust;
-    Specks m_pits;
+    CustomColor m_dust;
+    CustomColor m_pits;
 };
 
 }  // namespace
 
 const EffectInfo EffectTraits<EffectId::Aging>::kInfo = {
-    L"Aging Settings", 800, 630,
+    L"Aging Settings", 800, 630, 560,
     L"Enable Video Aging Effect, will gives the video the look and feel of an old style movie."};
 std::unique_ptr<CDialog> MakeAgingDlg() { return std::make_unique<CAgingDlg>(); }

@@ -1,4 +1,4 @@
-// Audio Chorus: the one effect of the audio chain. All its values travel in one structure.
+// Audio Chorus: the one effect of the audio chain.
 #include "effects/parts/effect_dlg.h"
 
 namespace {
@@ -8,64 +8,41 @@ public:
     CAudioChorusDlg() : CEffectDlg({.firstSync = FirstSync::BeforeAttach, .previewId = 21}) {}
 
 private:
+    // No control stands for combineWetDry: it stays in the record as it came.
     bool CreateControls() override {
-        return AddEnable() &&
-               AddSlider(m_wetMix, &AudioChorusSettings::wetMix,
-                         {11, L"Wet Mix(%d - %d)(%%):", -100, 100, L"Controls the level of processed signals"}) &&
-               AddSlider(m_dryMix, &AudioChorusSettings::dryMix,
-                         {12, L"Dry Mix(%d - %d)(%%):", -100, 100, L"Controls the level of unprocessed signals"}) &&
-               AddSlider(m_feedback, &AudioChorusSettings::feedback,
-                         {13, L"Feedback(%d - %d)(%%):", -100, 100,
+        return AddSlider(
+                   &Settings::wetMix, Below(321, 150),
+                   {11, L"Wet Mix(%d - %d)(%%):", kAudioChorusWetMix, L"Controls the level of processed signals"}) &&
+               AddSlider(
+                   &Settings::dryMix, Below(371, 150),
+                   {12, L"Dry Mix(%d - %d)(%%):", kAudioChorusDryMix, L"Controls the level of unprocessed signals"}) &&
+               AddSlider(&Settings::feedback, Below(421, 200),
+                         {13, L"Feedback(%d - %d)(%%):", kAudioChorusFeedback,
                           L"Controls the feedback of the repeated signal, zero feedback will result in only a "
                           L"single repeat, while nonzero feedback settings will generate numerous repeats."}) &&
-               AddSlider(m_delay, &AudioChorusSettings::delay,
-                         {22, L"Delay(%d - %d)(ms):", 0, 500,
+               AddSlider(&Settings::delay, Below(471, 200),
+                         {22, L"Delay(%d - %d)(ms):", kAudioChorusDelay,
                           L"Controls the level of the chorus effect. Larger values result in greater delay times."}) &&
-               AddSlider(m_stereo, &AudioChorusSettings::stereo,
-                         {23, L"Stereo(%d - %d)(degrees):", 0, 180,
+               AddSlider(&Settings::stereo, Below(521, 200),
+                         {23, L"Stereo(%d - %d)(degrees):", kAudioChorusStereo,
                           L"Stereo represents the phase difference between the left and right channel."});
-        // No control stands for combineWetDry: it stays in the record as it came.
     }
 
-    void LayoutControls() override {
-        CEffectDlg::LayoutControls();
-        PlaceSlider(m_wetMix, 321, 150);
-        PlaceSlider(m_dryMix, 371, 150);
-        PlaceSlider(m_feedback, 421, 200);
-        PlaceSlider(m_delay, 471, 200);
-        PlaceSlider(m_stereo, 521, 200);
-        m_helpRect = HelpRectBelow(571);
+    /// A slider below its label, from edge to edge.
+    CValueSlider::Places Below(int labelTop, int labelWidth) const {
+        const int numberLeft = Width() - 70;
+        return {
+            At(20, labelTop, labelWidth), At(20, labelTop + 24, numberLeft - 30), At(numberLeft, labelTop + 24, 50)};
     }
-
-    void ApplyToFilter() override {
-        Put(&IEffectAudioChorus::SetChorusParams,
-            {.dryMix = m_dryMix.Value(),
-             .wetMix = m_wetMix.Value(),
-             .delay = m_delay.Value(),
-             .feedback = m_feedback.Value(),
-             .stereo = m_stereo.Value(),
-             .enabled = m_enable.IsChecked(),
-             .reserved = {}});
-    }
-
-    void PlaceSlider(CValueSlider& slider, int labelTop, int labelWidth) {
-        const int numberLeft = ClientRect().right - 70;
-        slider.Place({.label = At(20, labelTop, labelWidth),
-                      .slider = At(20, labelTop + 24, numberLeft - 30),
-                      .number = At(numberLeft, labelTop + 24, 50)});
-    }
-
-    CValueSlider m_wetMix;
-    CValueSlider m_dryMix;
-    CValueSlider m_feedback;
-    CValueSlider m_delay;
-    CValueSlider m_stereo;
 };
 
 }  // namespace
 
 const EffectInfo EffectTraits<EffectId::AudioChorus>::kInfo = {
-    L"Audio Chorus Settings", 500, 680,
+    L"Audio Chorus Settings",
+    500,
+    680,
+    571,
     L"Enable Audio Chorus Effect, makes one instrument sound like many instruments are being played. It "
     L"adds some thickness to the sound.",
     ChainKind::Audio};

@@ -1,99 +1,59 @@
 // Deblocking: which algorithm smooths the edges of blocks, where they lie and how strongly.
 #include "effects/parts/effect_dlg.h"
-#include "effects/parts/frame_scale.h"
 #include "skin/combo_list_box.h"
 
 namespace {
 
 class CDeblockingDlg : public CEffectDlg<EffectId::Deblocking> {
     bool CreateControls() override {
-        if (!AddEnable() || !AddLabel(m_algorithmLabel, L"Deblocking Algorithm:") ||
-            !m_algorithm.Create(this, CRect(0, 0, 0, 0), 12)) {
-            return false;
-        }
-        AddControl(m_algorithm, L"Select one of the supported deblocking algorithms.");
+        return AddText(At(20, 320, 150), L"Deblocking Algorithm:") && AddAlgorithm() &&
+               AddText(At(20, 350, 120), L"First Block Offset:") && AddText(At(150, 350, 20), L"X") &&
+               AddText(At(290, 350, 20), L"Y") && AddText(At(20, 380, 100), L"Block Size:") &&
+               AddText(At(130, 380, 40), L"Width") && AddText(At(260, 380, 50), L"Height") &&
+               AddNumberEdit(&Settings::blockWidth, At(170, 380, 40), 15, L"The expected block width.") &&
+               AddNumberEdit(&Settings::blockHeight, At(310, 380, 40), 16, L"The expected block height.") &&
+               AddNumberEdit(&Settings::blockOffsetX, At(170, 350, 40), 13,
+                             L"Offset from the beginning of the sample buffer to the actual horizontal start.") &&
+               AddNumberEdit(&Settings::blockOffsetY, At(310, 350, 40), 14,
+                             L"Offset from the beginning of the sample buffer to the actual vertical start.") &&
+               // The threshold applies to the four-line algorithm alone.
+               AddSlider(&Settings::edgeThreshold, {At(20, 410, 300), At(20, 435, 400), At(430, 435, 50)},
+                         {17, L"Edge Threshold(Preserve to Smooth):", kDeblockingEdgeThreshold,
+                          L"A value of 0 preserves all the edges in the original video, while a value of 255 "
+                          L"will smooth all the edges."},
+                         {{&Settings::algorithm, 1}});
+    }
+
+    bool AddAlgorithm() {
+        if (!m_algorithm.Create(this, kNoPlace, 12)) return false;
+        AddControl(m_algorithm, L"Select one of the supported deblocking algorithms.", At(170, 320, 180));
         m_algorithm.AddString(L"Two Line Algorithm");
         m_algorithm.AddString(L"Four Line Algorithm");
         m_algorithm.SetCurrentIndex(m_settings->algorithm);
-        Bind(&DeblockingSettings::algorithm,
+        Bind(&Settings::algorithm,
              {.get = [this] { return m_algorithm.CurrentIndex(); },
               .set = [this](int index) { m_algorithm.SetCurrentIndex(index); },
               .enable = [this](bool on) { m_algorithm.SetEnabled(on); },
               .control = &m_algorithm});
-        return AddLabel(m_offsetLabel, L"First Block Offset:") && AddLabel(m_xLabel, L"X") &&
-               AddLabel(m_yLabel, L"Y") && AddLabel(m_sizeLabel, L"Block Size:") && AddLabel(m_widthLabel, L"Width") &&
-               AddLabel(m_heightLabel, L"Height") &&
-               AddNumberEdit(m_offsetX, &DeblockingSettings::blockOffsetX, 13,
-                             L"Offset from the beginning of the sample buffer to the actual horizontal start.") &&
-               AddNumberEdit(m_offsetY, &DeblockingSettings::blockOffsetY, 14,
-                             L"Offset from the beginning of the sample buffer to the actual vertical start.") &&
-               AddNumberEdit(m_width, &DeblockingSettings::blockWidth, 15, L"The expected block width.") &&
-               AddNumberEdit(m_height, &DeblockingSettings::blockHeight, 16, L"The expected block height.") &&
-               AddSlider(m_edgeThreshold, &DeblockingSettings::edgeThreshold,
-                         {17, L"Edge Threshold(Preserve to Smooth):", 0, 255,
-                          L"A value of 0 preserves all the edges in the original video, while a value of 255 "
-                          L"will smooth all the edges."});
-    }
-
-    void LayoutControls() override {
-        CEffectDlg::LayoutControls();
-        m_algorithmLabel.SetRect(At(20, 320, 150));
-        m_algorithm.SetRect(At(170, 320, 180));
-        m_offsetLabel.SetRect(At(20, 350, 120));
-        m_xLabel.SetRect(At(150, 350, 20));
-        m_offsetX.SetRect(At(170, 350, 40));
-        m_yLabel.SetRect(At(290, 350, 20));
-        m_offsetY.SetRect(At(310, 350, 40));
-        m_sizeLabel.SetRect(At(20, 380, 100));
-        m_widthLabel.SetRect(At(130, 380, 40));
-        m_width.SetRect(At(170, 380, 40));
-        m_heightLabel.SetRect(At(260, 380, 50));
-        m_height.SetRect(At(310, 380, 40));
-        m_edgeThreshold.Place({.label = At(20, 410, 300), .slider = At(20, 435, 400), .number = At(430, 435, 50)});
-        m_helpRect = HelpRectBelow(465);
-    }
-
-    void SyncControls() override {
-        CEffectDlg::SyncControls();
-        m_edgeThreshold.Enable(m_enable.IsChecked() && UsesThreshold());
+        return true;
     }
 
     void OnPicked(const void* list) override {
         if (list != &m_algorithm) return;
-        m_edgeThreshold.Enable(UsesThreshold());
+        FollowNeedsOf(m_settings->algorithm);
         ApplyToFilter();
     }
 
-    void ApplyToFilter() override {
-        Put(&IEffectDeblocking::put_Enable, m_enable);
-        Put(&IEffectDeblocking::put_Algorithm, m_algorithm.CurrentIndex());
-        Put(&IEffectDeblocking::put_BlockOffsetX, ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
-        Put(&IEffectDeblocking::put_BlockOffsetY, ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
-        Put(&IEffectDeblocking::put_BlockWidth, ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
-        Put(&IEffectDeblocking::put_BlockHeight, ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
-        Put(&IEffectDeblocking::put_EdgeThreshold, m_edgeThreshold);
+    std::vector<const std::int32_t*> FirstDefaults() const override {
+        return {&m_settings->enabled,      &m_settings->algorithm,  &m_settings->blockOffsetX,
+                &m_settings->blockOffsetY, &m_settings->blockWidth, &m_settings->blockHeight};
     }
 
-    /// The threshold applies to the four-line algorithm alone.
-    bool UsesThreshold() const { return m_algorithm.CurrentIndex() == 1; }
-
-    CSkinStatic m_algorithmLabel;
     CVelComboListBox m_algorithm;
-    CSkinStatic m_offsetLabel;
-    CSkinStatic m_xLabel;
-    CNumberEdit m_offsetX;
-    CSkinStatic m_yLabel;
-    CNumberEdit m_offsetY;
-    CSkinStatic m_sizeLabel;
-    CSkinStatic m_widthLabel;
-    CNumberEdit m_width;
-    CSkinStatic m_heightLabel;
-    CNumberEdit m_height;
-    CValueSlider m_edgeThreshold;
 };
 
 }  // namespace
 
 const EffectInfo EffectTraits<EffectId::Deblocking>::kInfo = {
-    L"Deblocking Settings", 500, 580, L"Enable Video Deblocking Effect, will performs deblocking on the video."};
+    L"Deblocking Settings", 500, 580, 465, L"Enable Video Deblocking Effect, will performs deblocking on the video."};
 std::unique_ptr<CDialog> MakeDeblockingDlg() { return std::make_unique<CDeblockingDlg>(); }

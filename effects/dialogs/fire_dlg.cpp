@@ -30,35 +30,35 @@ constexpr std::array<Direction, 9> kDirections = {{
 
 class CFireDlg : public CMotionDlg<EffectId::Fire> {
     bool CreateControls() override {
-        return AddEnable() &&
-               AddSlider(m_gradientLevel, &FireSettings::gradientLevel,
-                         {15, L"Gradient Level(%d - %d):", 0, 100,
+        return AddSlider(&Settings::gradientLevel, Row(320, 150),
+                         {15, L"Gradient Level(%d - %d):", kFireGradientLevel,
                           L"A percentage value that controls the colors graduation. For example 0 will result in "
                           L"a very small number of colors used to draw the flame. Higher values result in more "
                           L"colors used to draw the flames gradient color."}) &&
-               AddSlider(m_colorsOffset, &FireSettings::colorsOffset,
-                         {16, L"Colors Offset(%d - %d):", 0, 1000,
+               AddSlider(&Settings::colorsOffset, Row(345, 150),
+                         {16, L"Colors Offset(%d - %d):", kFireColorsOffset,
                           L"Changes the colors used in generating the fire flames to another set of colors."}) &&
-               AddSlider(m_decay, &FireSettings::decay,
-                         {18, L"Decay(%d - %d):", 1, 100,
+               AddSlider(&Settings::decay, Row(370),
+                         {18, L"Decay(%d - %d):", kFireDecay,
                           L"Controls the spread and height of the flames. A lower decay value will "
                           L"result in a greater spread of fire and higher flames."}) &&
                AddThreshold(
+                   Row(395), kFireThreshold,
                    L"Value used to control an object's detection level. A lower threshold provides stronger object "
                    L"detection. ") &&
-               AddNoReference() && AddFirstFrame() &&
-               AddCheckBox(m_showBackground, &FireSettings::showBackground,
+               AddNoReference(At(300, 486, 140)) && AddFirstFrame(At(300, 511, 180)) &&
+               AddCheckBox(&Settings::showBackground, At(300, 461, 140),
                            {17, L"Show background",
                             L"If checked, the background of the moving object will be "
                             L"displayed. Otherwise, a black background is displayed."}) &&
-               AddCheckBox(m_entireObject, &FireSettings::entireObject,
+               AddCheckBox(&Settings::entireObject, At(300, 436, 50),
                            {19, L"Fire", L"If checked, the entire object will be covered in flames."}) &&
-               AddLabel(m_directionLabel, L"Flame Direction:") && AddDirections();
+               AddText(At(20, 426, 150), L"Flame Direction:") && AddDirections();
     }
 
     bool AddDirections() {
         SetDirections(m_settings->flameDirection);
-        Bind(&FireSettings::flameDirection,
+        Bind(&Settings::flameDirection,
              {.get = [this] { return Directions(); },
               .set = [this](int bits) { SetDirections(bits); },
               .enable =
@@ -67,27 +67,13 @@ class CFireDlg : public CMotionDlg<EffectId::Fire> {
                   }});
         for (std::size_t index = 0; index < kDirections.size(); ++index) {
             const Direction& direction = kDirections[index];
-            Hear(direction.id);
-            if (!AddItem(m_directions[index], direction.caption, direction.id, direction.help)) return false;
+            HearClicks(direction.id, Of(&Settings::flameDirection));
+            if (!AddItem(m_directions[index], direction.caption, direction.id, direction.help,
+                         At(direction.x, direction.y, 40))) {
+                return false;
+            }
         }
         return true;
-    }
-
-    void LayoutControls() override {
-        CMotionDlg::LayoutControls();
-        m_gradientLevel.Place(Row(320, 150));
-        m_colorsOffset.Place(Row(345, 150));
-        m_decay.Place(Row(370));
-        m_threshold.Place(Row(395));
-        m_directionLabel.SetRect(At(20, 426, 150));
-        for (std::size_t index = 0; index < kDirections.size(); ++index) {
-            m_directions[index].SetRect(At(kDirections[index].x, kDirections[index].y, 40));
-        }
-        m_entireObject.SetRect(At(kRightColumn, 436, 50));
-        m_showBackground.SetRect(At(kRightColumn, 461, 140));
-        m_noReference.SetRect(At(kRightColumn, 486, 140));
-        m_firstFrame.SetRect(At(kRightColumn, 511, 180));
-        m_helpRect = HelpRectBelow(541);
     }
 
     void OnClicked(UINT id) override {
@@ -96,18 +82,6 @@ class CFireDlg : public CMotionDlg<EffectId::Fire> {
         // There is no fire without a direction: the last one that goes turns into a glow.
         if (clicked != kDirections.end() && Directions() == 0) SetDirections(kFlameGlow);
         CMotionDlg::OnClicked(id);
-    }
-
-    void ApplyToFilter() override {
-        Put(&IEffectFire::put_Enable, m_enable);
-        Put(&IEffectFire::put_GradientLevel, m_gradientLevel);
-        Put(&IEffectFire::put_ColorsOffset, m_colorsOffset);
-        Put(&IEffectFire::put_Decay, m_decay);
-        Put(&IEffectFire::put_Threshold, m_threshold);
-        Put(&IEffectFire::put_FlameDirection, Directions());
-        Put(&IEffectFire::put_EntireObject, m_entireObject);
-        Put(&IEffectFire::put_ShowBackground, m_showBackground);
-        PutReference();
     }
 
     int Directions() const {
@@ -124,19 +98,12 @@ class CFireDlg : public CMotionDlg<EffectId::Fire> {
         }
     }
 
-    static constexpr int kRightColumn = 300;
-
-    CValueSlider m_gradientLevel;
-    CValueSlider m_colorsOffset;
-    CValueSlider m_decay;
-    CSkinStatic m_directionLabel;
     std::array<CSkinCheckBox, kDirections.size()> m_directions;
-    CSkinCheckBox m_entireObject;
-    CSkinCheckBox m_showBackground;
 };
 
 }  // namespace
 
 const EffectInfo EffectTraits<EffectId::Fire>::kInfo = {
-    L"Fire Settings", 560, 645, L"Enable Video Fire Effect, will draws flames around a moving object on the video."};
+    L"Fire Settings", 560, 645, 541,
+    L"Enable Video Fire Effect, will draws flames around a moving object on the video."};
 std::unique_ptr<CDialog> MakeFireDlg() { return std::make_unique<CFireDlg>(); }

@@ -1,119 +1,77 @@
 // A dialog of an effect that can be limited to a rectangle of the video.
 #pragma once
 
-#include "effects/parts/area_controls.h"
-#include "effects/parts/effect_area.h"
 #include "effects/parts/effect_dlg.h"
 #include "skin/skin_message_box.h"
-
-/// What a filter with one setter per edge gets for an area that is not valid.
-enum class InvalidArea {
-    ReplaceThenConvert,  ///< A valid area, converted to frame pixels like any other.
-    SendAsIs,            ///< A valid area's numbers as they are, and left first.
-};
-
-/// When such a filter gets the area's switch.
-enum class AreaSwitch { BeforeEdges, AfterEdges, BeforeValidEdgesOnly };
 
 template <EffectId Id>
 class CAreaDlg : public CEffectDlg<Id> {
 protected:
-    using typename CEffectDlg<Id>::Filter;
     using typename CEffectDlg<Id>::Settings;
+    using typename CEffectDlg<Id>::SettingsField;
+
+    struct AreaTexts {
+        LPCWSTR heading = L"Enable Effect on below Area:";
+        LPCWSTR switchHelp = L"Enables the effect on below video area.";
+    };
 
     /// The record's area is mended here, before anything is shown. Sliders have the preview panel's usual id.
     CAreaDlg() : CEffectDlg<Id>({.firstSync = FirstSync::BeforeAttach, .previewId = 21, .titleHasSize = true}) {
-        StoreEdges(ClampEffectArea(EdgesOf(*this->m_settings), VideoSize()));
+        effect_settings::MendArea(*this->m_settings, this->VideoSizes().video);
     }
 
-    bool AddArea(const CAreaControls::Texts& texts = {}) {
-        this->Hear(CAreaControls::kSwitchId);
-        for (const UINT id : CAreaControls::kEdgeIds) this->Hear(id, EN_CHANGE);
-        const Settings& settings = *this->m_settings;
-        return m_area.Create(*this, settings.areaEnabled != 0, EdgesOf(settings), texts);
-    }
+    /// Adds the heading, the switch and the four edges, over the width of a column.
+    bool AddArea(CPoint at, int width, const AreaTexts& texts = {}) {
+        constexpr UINT kSwitchId = 16;
+        constexpr int kSwitchTop = 24;
+        constexpr int kEdgesTop = 52;
+        constexpr int kGap = 14;
+        const struct {
+            SettingsField field;
+            UINT id;
+            LPCWSTR label;
+            int labelWidth;
+            LPCWSTR help;
+        } edges[] = {{&Settings::left, 17, L"Left", 30, L"Left boundary of the effect area."},
+                     {&Settings::top, 18, L"Top", 30, L"Top boundary of the effect area."},
+                     {&Settings::right, 19, L"Right", 38, L"Right boundary of the effect area."},
+                     {&Settings::bottom, 20, L"Bottom", 50, L"Bottom boundary of the effect area."}};
+        int labels = 0;
+        for (const auto& edge : edges) labels += edge.labelWidth;
+        const int editWidth = (width - labels - 3 * kGap) / 4;
 
-    /// Places the area below the other controls, and the help panel below it.
-    void PlaceArea(int y) {
-        m_area.Place({20, y}, this->ClientRect().Width() - 40);
-        this->m_helpRect = this->HelpRectBelow(y + CAreaControls::kHeight + 10);
+        if (!this->AddHeading(CRect(at, CSize(width, this->kRowHeight)), texts.heading) ||
+            !this->AddCheckBox(&Settings::areaEnabled, this->At(at.x, at.y + kSwitchTop, 140),
+                               {kSwitchId, L"Enable Effect Area", texts.switchHelp})) {
+            return false;
+        }
+        int x = at.x;
+        const int y = at.y + kEdgesTop;
+        for (const auto& edge : edges) {
+            const int editLeft = x + edge.labelWidth;
+            // A click on the switch looks at the switch alone, not at "Enable", on purpose.
+            if (!this->AddText(this->At(x, y, edge.labelWidth), edge.label) ||
+                !this->AddNumberEdit(
+                    edge.field, this->At(editLeft, y, editWidth), edge.id, edge.help, {{&Settings::areaEnabled, 1}})) {
+                return false;
+            }
+            x = editLeft + editWidth + kGap;
+        }
+        return true;
     }
+    /// Below the other controls, over the whole width.
+    bool AddArea(int y, const AreaTexts& texts = {}) { return AddArea({20, y}, this->Width() - 40, texts); }
 
     CValueSlider::Places Row(int y) const { return CRecordDlg::Row(y, 155, 180, 50); }
 
-    void SyncControls() override {
-        CEffectDlg<Id>::SyncControls();
-        m_area.SetEnabled(this->m_enable.IsChecked());
-    }
-
-    void OnClicked(UINT id) override {
-        // Here the edges follow their own switch alone, on purpose.
-        if (id == CAreaControls::kSwitchId) m_area.SetEdgesEnabled(m_area.IsOn());
-        CEffectDlg<Id>::OnClicked(id);
-    }
-
     bool Validate() override {
-        if (!m_area.IsOn() || IsValid(m_area.Typed())) return true;
+        const RECT typed = {this->Shown(&Settings::left), this->Shown(&Settings::top), this->Shown(&Settings::right),
+                            this->Shown(&Settings::bottom)};
+        if (!this->Shown(&Settings::areaEnabled) ||
+            effect_settings::ValidateEffectArea(typed, this->VideoSizes().video)) {
+            return true;
+        }
         CSkinMessageBox(L"Error!", L"Invalid effect area, please input and try again!").DoModal();
         return false;
-    }
-
-    void SaveSettings() override {
-        CEffectDlg<Id>::SaveSettings();
-        this->m_settings->areaEnabled = m_area.IsOn();
-        StoreEdges(m_area.Typed());
-    }
-
-    void SetDefaults() override {
-        CEffectDlg<Id>::SetDefaults();
-        SetDefaultArea();
-    }
-    void SetDefaultArea() { m_area.Set(this->kDefaults.areaEnabled != 0, EdgesOf(this->kDefaults)); }
-
-    /// The area for a filter that takes it as a structure; one that is not valid is replaced, then converted.
-    AreaParams AreaStructure() const {
-        const RECT typed = m_area.Typed();
-        const RECT edges = InFrame(IsValid(typed) ? typed : kValidEffectArea);
-        return {edges.left, edges.top, edges.right, edges.bottom, m_area.IsOn(), {0, 0, 1, 1, 0}};
-    }
-
-    /// Sends the area to a filter with a setter per edge, whatever its switch says: the filter looks at that.
-    void PutArea(InvalidArea invalid, AreaSwitch place) {
-        const RECT typed = m_area.Typed();
-        const bool valid = IsValid(typed);
-        const VARIANT_BOOL on = m_area.IsOn() ? VARIANT_TRUE : VARIANT_FALSE;
-        if (place == AreaSwitch::BeforeEdges || (place == AreaSwitch::BeforeValidEdgesOnly && valid)) {
-            this->Put(&Filter::put_AreaEnable, on);
-        }
-        if (valid || invalid == InvalidArea::ReplaceThenConvert) {
-            const RECT edges = InFrame(valid ? typed : kValidEffectArea);
-            this->Put(&Filter::put_AreaRight, edges.right);
-            this->Put(&Filter::put_AreaBottom, edges.bottom);
-            this->Put(&Filter::put_AreaLeft, edges.left);
-            this->Put(&Filter::put_AreaTop, edges.top);
-        } else {
-            this->Put(&Filter::put_AreaLeft, kValidEffectArea.left);
-            this->Put(&Filter::put_AreaTop, kValidEffectArea.top);
-            this->Put(&Filter::put_AreaRight, kValidEffectArea.right);
-            this->Put(&Filter::put_AreaBottom, kValidEffectArea.bottom);
-        }
-        if (place == AreaSwitch::AfterEdges) this->Put(&Filter::put_AreaEnable, on);
-    }
-
-    CAreaControls m_area;
-
-private:
-    static RECT EdgesOf(const Settings& settings) {
-        return {settings.left, settings.top, settings.right, settings.bottom};
-    }
-    static SIZE VideoSize() { return {g_VideoWidth, g_VideoHeight}; }
-    static bool IsValid(const RECT& area) { return ValidateEffectArea(area, VideoSize()); }
-    static RECT InFrame(const RECT& area) { return ScaleEffectArea(area, VideoSize(), {g_FrameWidth, g_FrameHeight}); }
-
-    void StoreEdges(const RECT& area) {
-        this->m_settings->left = area.left;
-        this->m_settings->top = area.top;
-        this->m_settings->right = area.right;
-        this->m_settings->bottom = area.bottom;
     }
 };

@@ -1,12 +1,9 @@
 // The typed part of an effect dialog: its filter's property interface and its record.
 #pragma once
 
-#include <type_traits>
-
 #include <afxwin.h>
 
-#include "effect_settings/effect_filters.h"
-#include "effect_settings/effect_settings.h"
+#include "effect_settings/apply_settings.h"
 #include "effects/parts/effect_makers.h"
 #include "effects/parts/record_dlg.h"
 #include "entry/session.h"
@@ -28,68 +25,81 @@ struct EffectTraits;
 EFFECT_SETTINGS_EFFECTS(EFFECT_TRAITS)
 #undef EFFECT_TRAITS
 
-/// A check box's state as filters take it.
-inline VARIANT_BOOL AutomationBool(const CSkinCheckBox& box) { return box.IsChecked() ? VARIANT_TRUE : VARIANT_FALSE; }
-
 template <EffectId Id>
 class CEffectDlg : public CRecordDlg {
 protected:
     using Filter = typename EffectTraits<Id>::Filter;
     using Settings = typename EffectTraits<Id>::Settings;
     using SettingsField = std::int32_t Settings::*;
+    /// What a field's control has to show.
+    struct FieldNeed {
+        SettingsField field;
+        int value;
+    };
+    using FieldNeeds = std::vector<FieldNeed>;
 
     explicit CEffectDlg(const EffectDialogOptions& options = {})
         : CRecordDlg(
               EffectTraits<Id>::kInfo, EffectTraits<Id>::kFilterClass, EffectTraits<Id>::kPropertyInterface, options),
           m_settings(static_cast<Settings*>(g_Settings)) {}
 
-    // What a dialog creates its controls with; each stands for a field.
+    // What a dialog creates its controls with: a field, the place, what is special, and what the control needs besides
+    // "Enable" to be enabled.
 
-    bool AddEnable() { return CRecordDlg::AddEnable(Of(&Settings::enabled)); }
-    bool AddSlider(CValueSlider& slider, SettingsField field, const SliderSetup& setup) {
-        return CRecordDlg::AddSlider(slider, Of(field), setup);
+    bool AddSlider(SettingsField field, const CValueSlider::Places& places, const SliderSetup& setup,
+                   const FieldNeeds& needs = {}) {
+        return CRecordDlg::AddSlider(Of(field), places, setup, Of(needs));
     }
-    bool AddCheckBox(CSkinCheckBox& box, SettingsField field, const CheckBoxSetup& setup) {
-        return CRecordDlg::AddCheckBox(box, Of(field), setup);
+    bool AddCheckBox(SettingsField field, const CRect& place, const ItemSetup& setup, const FieldNeeds& needs = {}) {
+        return CRecordDlg::AddCheckBox(Of(field), place, setup, Of(needs));
     }
-    bool AddRadioGroup(CRadioGroup& group, SettingsField field, const Choices& choices) {
-        return CRecordDlg::AddRadioGroup(group, Of(field), choices, m_settings->*field);
+    bool AddRadioGroup(SettingsField field, const CRadioGroup::Places& places,
+                       const std::vector<CRadioGroup::Choice>& choices, const FieldNeeds& needs = {}) {
+        return CRecordDlg::AddRadioGroup(Of(field), places, choices, m_settings->*field, Of(needs));
     }
     /// A choice between 0 and 1; any other number counts as 1.
-    bool AddRadioPair(CRadioGroup& group, SettingsField field, const Choices& choices) {
-        return CRecordDlg::AddRadioGroup(group, Of(field), choices, m_settings->*field != 0);
+    bool AddRadioPair(SettingsField field, const CRadioGroup::Places& places,
+                      const std::vector<CRadioGroup::Choice>& choices) {
+        return CRecordDlg::AddRadioGroup(Of(field), places, choices, m_settings->*field != 0, {});
     }
-    bool AddNumberEdit(CNumberEdit& edit, SettingsField field, UINT id, LPCWSTR help) {
-        return CRecordDlg::AddNumberEdit(edit, Of(field), id, help);
+    bool AddNumberEdit(SettingsField field, const CRect& place, UINT id, LPCWSTR help, const FieldNeeds& needs = {}) {
+        return CRecordDlg::AddNumberEdit(Of(field), place, id, help, Of(needs));
     }
-    void Bind(SettingsField field, const Binding& binding) { CRecordDlg::Bind(Of(field), binding); }
+    void Bind(SettingsField field, const Binding& binding, const FieldNeeds& needs = {}) {
+        CRecordDlg::Bind(Of(field), binding, Of(needs));
+    }
+    int Shown(SettingsField field) const { return CRecordDlg::Shown(m_settings->*field); }
 
-    /// One call of a push. It does nothing without a filter: before the attach, and once the window is gone, which may
-    /// happen inside any of these calls. A filter that throws counts as one that fails: neither is looked at.
-    template <typename Interface, typename Parameter>
-    void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(Parameter), std::type_identity_t<Parameter> value) {
-        const ComPtr<IUnknown> filter = PropertyInterface();
-        if (!filter) return;
-        try {
-            (static_cast<Interface*>(static_cast<Filter*>(filter.Get()))->*setter)(value);
-        } catch (...) {
-        }
+    bool CreateStandardControls() override {
+        return CRecordDlg::CreateStandardControls() && AddEnable(Of(&Settings::enabled));
     }
 
-    template <typename Interface>
-    void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(VARIANT_BOOL), const CSkinCheckBox& box) {
-        Put(setter, AutomationBool(box));
+    /// Sends what the controls show, call by call: a setter may close the window, which ends the push, and is called with
+    /// a reference of its own, so that the filter outlives it. What a setter throws counts as a failure, which is not
+    /// looked at either.
+    void ApplyToFilter() override {
+        Settings sent = *m_settings;
+        ReadSent(reinterpret_cast<const std::int32_t*>(m_settings), reinterpret_cast<std::int32_t*>(&sent));
+        const auto send = [this](auto setter, const auto& value) {
+            const ComPtr<IUnknown> filter = PropertyInterface();
+            if (!filter) return;
+            try {
+                (static_cast<Filter*>(filter.Get())->*setter)(value);
+            } catch (...) {
+            }
+        };
+        effect_settings::Push(send, sent, VideoSizes());
     }
-    template <typename Interface>
-    void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(LONG), const CValueSlider& slider) {
-        Put(setter, slider.Value());
+
+    Field Of(SettingsField field) const { return {m_settings->*field, kDefaults.*field}; }
+    Needs Of(const FieldNeeds& needs) const {
+        Needs own;
+        for (const FieldNeed& need : needs) own.push_back({m_settings->*need.field, need.value});
+        return own;
     }
 
     /// What "Set as default" sets.
     static constexpr Settings kDefaults{};
 
     Settings* const m_settings;
-
-private:
-    Field Of(SettingsField field) const { return {m_settings->*field, kDefaults.*field}; }
 };

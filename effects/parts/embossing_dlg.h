@@ -9,31 +9,27 @@ class CEmbossingDlg : public Dialog {
 protected:
     using Dialog::Dialog;
 
-    using SettingsField = typename Dialog::SettingsField;
-    using Settings = typename Dialog::Settings;
+    using typename Dialog::Settings;
+    using typename Dialog::SettingsField;
 
-    /// Three sliders with ids that follow each other.
-    bool AddLightAndDepth(UINT firstId) {
-        return this->AddSlider(m_lightAngle, &Settings::lightAngle,
-                               {firstId, L"Light Angle(%d-%d):", 0, 360, L"The direction of the light, in degrees."}) &&
+    /// Three sliders with ids that follow each other, one below the other.
+    bool AddLightAndDepth(UINT firstId, const CValueSlider::Places (&rows)[3]) {
+        return this->AddSlider(
+                   &Settings::lightAngle, rows[0],
+                   {firstId, L"Light Angle(%d-%d):", kEmbossLightAngle, L"The direction of the light, in degrees."}) &&
                this->AddSlider(
-                   m_elevation, &Settings::elevation,
-                   {firstId + 1, L"Elevation(%d-%d):", 0, 180,
+                   &Settings::elevation, rows[1],
+                   {firstId + 1, L"Elevation(%d-%d):", kEmbossElevation,
                     L"Elevation angle. 0 will cause outer embossing, and 180 will cause inner embossing."}) &&
-               this->AddSlider(
-                   m_depth, &Settings::depth, {firstId + 2, L"Depth(%d-%d):", 1, 100, L"Depth of the emboss effect."});
+               this->AddSlider(&Settings::depth, rows[2],
+                               {firstId + 2, L"Depth(%d-%d):", kEmbossDepth, L"Depth of the emboss effect."});
     }
 
     /// "Emboss" stands for the field's default, 0 or 1, and "Bumpmap" for the other of the two.
-    bool AddMode(UINT firstId, SettingsField field) {
+    bool AddMode(SettingsField field, const CRadioGroup::Places& places, UINT firstId) {
         const std::int32_t emboss = this->kDefaults.*field;
-        return this->AddRadioPair(m_mode, field,
+        return this->AddRadioPair(field, places,
                                   {{firstId, emboss, L"Emboss", L"If selected, emboss without a bump map."},
                                    {firstId + 1, 1 - emboss, L"Bumpmap", L"If selected, emboss with a bump map."}});
     }
-
-    CValueSlider m_lightAngle;
-    CValueSlider m_elevation;
-    CValueSlider m_depth;
-    CRadioGroup m_mode;
 };

@@ -9,12 +9,12 @@ int ParseNumber(LPCWSTR text) {
     return static_cast<int>(std::clamp<long long>(std::wcstoll(text, nullptr, 10), Limits::min(), Limits::max()));
 }
 
-bool CNumberEdit::Create(CSkinDialog& dialog, UINT id, int value, LPCWSTR help) {
+bool CNumberEdit::Create(CSkinDialog& dialog, const CRect& place, UINT id, int value, LPCWSTR help) {
     constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_NUMBER | ES_AUTOHSCROLL;
     CString text;
     text.Format(L"%d", value);
-    if (!CSkinEdit::Create(text, kStyle, &dialog, CRect(0, 0, 0, 0), id)) return false;
-    dialog.AddControl(*this, help);
+    if (!CSkinEdit::Create(text, kStyle, &dialog, CSkinDialog::kNoPlace, id)) return false;
+    dialog.AddControl(*this, help, place);
     return true;
 }
 

@@ -9,7 +9,7 @@ int ParseNumber(LPCWSTR text);
 
 class CNumberEdit : public CSkinEdit {
 public:
-    bool Create(CSkinDialog& dialog, UINT id, int value, LPCWSTR help);
+    bool Create(CSkinDialog& dialog, const CRect& place, UINT id, int value, LPCWSTR help);
     int Value() const { return ParseNumber(Text()); }
     void SetValue(int value);
 };

@@ -1,9 +1,10 @@
 // A dialog whose controls each stand for a field of the caller's record: loading, saving, "Set as default" and the
-// plain enable rule are then the same for all.
+// enable rules are then the same for all.
 #pragma once
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "dialogs/base/effect_settings_dlg.h"
@@ -22,11 +23,18 @@ public:
     };
     /// How a control holds its field's value.
     struct Binding {
-        std::function<int()> get;
+        std::function<int()> get;  ///< What OK saves.
         std::function<void(int)> set;
-        std::function<void(bool)> enable = {};  ///< Empty where the plain enable rule does not hold.
-        CSkinControl* control = nullptr;        ///< Null where several stand for the field.
+        std::function<void(bool)> enable;
+        std::function<int()> sent = {};   ///< What a push sends; empty where that is what OK saves.
+        CSkinControl* control = nullptr;  ///< Null where several stand for the field.
     };
+    /// A field's control has to show a value, or else another control is disabled.
+    struct Need {
+        const std::int32_t& field;
+        int value;
+    };
+    using Needs = std::vector<Need>;
     struct BoundField {
         Field field;
         Binding control;
@@ -39,37 +47,58 @@ protected:
     struct SliderSetup {
         UINT id;
         LPCWSTR label;  ///< With "%d" for the ends of the range; null where something else stands in its place.
-        int min;        ///< Of the values, as max.
-        int max;
+        effect_settings::Range range;
         LPCWSTR help;
-        CValueSlider::Number number = CValueSlider::Number::Saved;
+        CValueSlider::Number shown = CValueSlider::Number::Saved;
+        CValueSlider::Number sent = CValueSlider::Number::Saved;
     };
-    struct CheckBoxSetup {
+    struct ItemSetup {
         UINT id;
         LPCWSTR text;
         LPCWSTR help;
     };
-    using Choices = std::vector<CRadioGroup::Choice>;
 
     using CEffectSettingsDlg::CEffectSettingsDlg;
 
-    // Each creates a control with the field's value and keeps the two together.
+    // Each creates a control at its place with the field's value and keeps the two together. The controls that are made
+    // here belong to this class.
 
     bool AddEnable(const Field& field);
-    bool AddSlider(CValueSlider& slider, const Field& field, const SliderSetup& setup);
-    bool AddCheckBox(CSkinCheckBox& box, const Field& field, const CheckBoxSetup& setup);
+    bool AddSlider(const Field& field, const CValueSlider::Places& places, const SliderSetup& setup,
+                   const Needs& needs);
+    bool AddCheckBox(const Field& field, const CRect& place, const ItemSetup& setup, const Needs& needs);
     /// @param shown  What is selected first; for a value that is no choice nothing is, and the field stays.
-    bool AddRadioGroup(CRadioGroup& group, const Field& field, const Choices& choices, int shown);
-    bool AddNumberEdit(CNumberEdit& edit, const Field& field, UINT id, LPCWSTR help);
-    void Bind(const Field& field, const Binding& binding);
+    bool AddRadioGroup(const Field& field, const CRadioGroup::Places& places,
+                       const std::vector<CRadioGroup::Choice>& choices, int shown, const Needs& needs);
+    bool AddNumberEdit(const Field& field, const CRect& place, UINT id, LPCWSTR help, const Needs& needs);
+    bool AddText(const CRect& place, LPCWSTR text);
+    bool AddHeading(const CRect& place, LPCWSTR text);
+    void Bind(const Field& field, const Binding& binding, const Needs& needs);
+    /// A control that stands for no field, but can be disabled like the others.
+    void AddRule(std::function<void(bool)> enable, const Needs& needs) {
+        m_rules.push_back({std::move(enable), needs});
+    }
+    /// A click on the control with this id is one on the field's control.
+    void HearClicks(UINT id, const Field& field);
 
-    /// Every control but "Enable" follows "Enable".
+    /// What the control of a field shows now, as OK would save it.
+    int Shown(const std::int32_t& field) const;
+    /// Fills a record with what a push sends.
+    /// @param own   The first field of the caller's record, which the controls are bound to.
+    /// @param sent  The first field of the record to fill; fields that no control stands for stay as they are there.
+    void ReadSent(const std::int32_t* own, std::int32_t* sent) const;
+
+    /// Every control but "Enable" follows "Enable", and what else it needs.
     void SyncControls() override;
+    /// The controls that need the clicked one follow what they need, whatever "Enable" says.
+    void OnClicked(UINT id) override;
+    void FollowNeedsOf(const std::int32_t& field);
     void SaveSettings() override;
-    /// Puts the controls to their defaults in the order of adding, which shows: each edit that is filled pushes.
-    virtual void SetDefaults();
     /// Sets all defaults and then does what a click on "Enable" does.
     void ResetToDefaults() override;
+    /// The fields that "Set as default" sets before all others, in this order; the others follow in the order of adding.
+    /// It shows: each edit that is filled pushes.
+    virtual std::vector<const std::int32_t*> FirstDefaults() const { return {}; }
 
     /// A slider that begins beside its label and ends before its number, at the right edge.
     CValueSlider::Places Row(int y, int labelWidth = 130, int sliderLeft = 180, int numberWidth = 60) const;
@@ -77,5 +106,27 @@ protected:
     static CValueSlider::Places TallRow() { return {At(20, 325, 150), At(20, 350, 430), At(460, 350, 50)}; }
 
 private:
+    struct Rule {
+        std::function<void(bool)> enable;
+        Needs needs;
+    };
+    struct HeardField {
+        UINT id;
+        const std::int32_t* field;
+    };
+
+    /// Makes a control that lives as long as the dialog.
+    template <typename Control>
+    Control& Own() {
+        auto made = std::make_shared<Control>();
+        m_owned.push_back(made);
+        return *made;
+    }
+    const BoundField* Find(const std::int32_t& field) const;
+    bool AreMet(const Needs& needs) const;
+
+    std::vector<std::shared_ptr<void>> m_owned;
     std::vector<BoundField> m_fields;
+    std::vector<Rule> m_rules;
+    std::vector<HeardField> m_heardFields;
 };

@@ -5,13 +5,13 @@
 
 #include "skin/numbers.h"
 
-bool CValueSlider::Create(CSkinDialog& dialog, const Setup& setup) {
+bool CValueSlider::Create(CSkinDialog& dialog, const Places& places, const Setup& setup) {
     m_offset = (std::max)(-setup.min, 0);
     m_shown = setup.number;
-    if (setup.label && !dialog.AddLabel(m_label, setup.label)) return false;
-    if (!CSkinSlider::Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &dialog, setup.id)) return false;
-    dialog.AddControl(*this, setup.help);
-    if (!dialog.AddLabel(m_number, L"")) return false;
+    if (setup.label && !dialog.AddLabel(m_label, setup.label, places.label)) return false;
+    if (!CSkinSlider::Create(WS_CHILD | WS_VISIBLE, CSkinDialog::kNoPlace, &dialog, setup.id)) return false;
+    dialog.AddControl(*this, setup.help, places.slider);
+    if (!dialog.AddLabel(m_number, L"", places.number)) return false;
     SetMaximum(static_cast<double>(setup.max) + m_offset);
     SetMinimum(static_cast<double>(setup.min) + m_offset);
     SetValue(setup.value);
@@ -19,15 +19,9 @@ bool CValueSlider::Create(CSkinDialog& dialog, const Setup& setup) {
     return true;
 }
 
-void CValueSlider::Place(const Places& places) {
-    m_label.SetRect(places.label);
-    MoveWindow(places.slider);
-    m_number.SetRect(places.number);
+int CValueSlider::ValueAs(Number number) const {
+    return TruncateToInt((number == Number::Saved ? std::trunc(Position()) : Position()) - m_offset);
 }
-
-int CValueSlider::Value() const { return TruncateToInt(std::trunc(Position()) - m_offset); }
-
-int CValueSlider::Sent() const { return TruncateToInt(Position() - m_offset); }
 
 void CValueSlider::SetValue(int value) {
     SetPosition(static_cast<double>(value) + m_offset);

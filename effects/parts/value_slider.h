@@ -7,8 +7,12 @@
 
 class CValueSlider : public CSkinSlider {
 public:
-    /// Which of the two numbers that a position between two values stands for is shown.
-    enum class Number { Saved, Sent };
+    /// The two numbers that a position between two values can stand for. Below 0 the first is the lower, the second the
+    /// upper of the two; above they are the same.
+    enum class Number {
+        Saved,  ///< The position truncated, then less the offset: what OK saves.
+        Sent,   ///< The position less the offset, then truncated: what some effects send.
+    };
 
     struct Setup {
         UINT id;
@@ -20,21 +24,17 @@ public:
         Number number = Number::Saved;
     };
     struct Places {
-        CRect label{0, 0, 0, 0};
+        CRect label = CSkinDialog::kNoPlace;
         CRect slider;
         CRect number;
     };
 
     /// Shows the value as given, even where the slider clamps it.
-    bool Create(CSkinDialog& dialog, const Setup& setup);
-    void Place(const Places& places);
-    /// What OK saves: the position truncated, then less the offset.
-    int Value() const;
-    /// What a push of some effects sends: the position less the offset, then truncated. Between two values below 0 it
-    /// is the upper one, and Value() the lower.
-    int Sent() const;
+    bool Create(CSkinDialog& dialog, const Places& places, const Setup& setup);
+    int ValueAs(Number number) const;
+    int Value() const { return ValueAs(Number::Saved); }
     void SetValue(int value);
-    void ShowPosition() override { ShowNumber(m_shown == Number::Saved ? Value() : Sent()); }
+    void ShowPosition() override { ShowNumber(ValueAs(m_shown)); }
 
 protected:
     int ShownNumber() const override { return m_shownNumber; }

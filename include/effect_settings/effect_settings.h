@@ -73,12 +73,33 @@ typedef struct IMediaHost IMediaHost;
 #define EFFECT_SETTINGS_DEFAULT(value) = value
 #define EFFECT_SETTINGS_SIZE(record, size) static_assert(sizeof(record) == (size), #record)
 
+#ifdef __cpp_inline_variables
+#define EFFECT_SETTINGS_RANGE(name, min, max) inline constexpr effect_settings::Range name = {min, max}
+#else
+#define EFFECT_SETTINGS_RANGE(name, min, max) constexpr effect_settings::Range name = {min, max}
+#endif
+
 /// EffectId::Wave and so on.
 enum class EffectId : int32_t { EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_ID) };
+
+namespace effect_settings {
+
+/// The values that a field's control can have. The ranges stand below the records: kWaveThreshold is that of
+/// WaveSettings::threshold. In C they are kWaveThreshold_Min and kWaveThreshold_Max.
+struct Range {
+    int32_t min;
+    int32_t max;
+
+    /// The nearest value of the range.
+    constexpr int32_t Clamp(int32_t value) const { return value < min ? min : value > max ? max : value; }
+};
+
+}  // namespace effect_settings
 #else
 #define EFFECT_SETTINGS_ID(name, number) EffectId_##name = number,
 #define EFFECT_SETTINGS_DEFAULT(value)
 #define EFFECT_SETTINGS_SIZE(record, size) _Static_assert(sizeof(record) == (size), #record)
+#define EFFECT_SETTINGS_RANGE(name, min, max) enum { name##_Min = (min), name##_Max = (max) }
 
 /// In C EffectId_Wave and so on.
 typedef int32_t EffectId;
@@ -141,6 +162,8 @@ typedef struct BrightnessSettings {
     int32_t brightness EFFECT_SETTINGS_DEFAULT(100);         ///< -1000 to 1000.
 } BrightnessSettings;
 EFFECT_SETTINGS_SIZE(BrightnessSettings, 16);
+EFFECT_SETTINGS_RANGE(kBrightnessThreshold, 1, 100);
+EFFECT_SETTINGS_RANGE(kBrightnessBrightness, -1000, 1000);
 
 /// Settings of the Color effect (EffectId 5).
 typedef struct ColorSettings {
@@ -157,6 +180,10 @@ typedef struct ColorSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } ColorSettings;
 EFFECT_SETTINGS_SIZE(ColorSettings, 44);
+EFFECT_SETTINGS_RANGE(kColorHue, -180, 180);
+EFFECT_SETTINGS_RANGE(kColorSaturation, -100, 100);
+EFFECT_SETTINGS_RANGE(kColorBrightness, -100, 100);
+EFFECT_SETTINGS_RANGE(kColorContrast, -100, 100);
 
 /// Settings of the Deblocking effect (EffectId 6).
 typedef struct DeblockingSettings {
@@ -169,6 +196,8 @@ typedef struct DeblockingSettings {
     int32_t blockHeight EFFECT_SETTINGS_DEFAULT(8);     ///< In pixels of the source video; any number, 0 too.
 } DeblockingSettings;
 EFFECT_SETTINGS_SIZE(DeblockingSettings, 28);
+EFFECT_SETTINGS_RANGE(kDeblockingAlgorithm, 0, 1);
+EFFECT_SETTINGS_RANGE(kDeblockingEdgeThreshold, 0, 255);
 
 /// Settings of the Edge Enhance effect (EffectId 7).
 typedef struct EdgeEnhanceSettings {
@@ -177,6 +206,7 @@ typedef struct EdgeEnhanceSettings {
     int32_t multiplier EFFECT_SETTINGS_DEFAULT(100);       ///< 50 to 1000.
 } EdgeEnhanceSettings;
 EFFECT_SETTINGS_SIZE(EdgeEnhanceSettings, 12);
+EFFECT_SETTINGS_RANGE(kEdgeEnhanceMultiplier, 50, 1000);
 
 /// Settings of the Aging effect (EffectId 8). A channel or colour mode that is no choice selects none, and OK keeps it
 /// until the user selects one.
@@ -208,6 +238,13 @@ typedef struct AgingSettings {
     int32_t pitsColor EFFECT_SETTINGS_DEFAULT(0x969696);   ///< Custom colour, 0x00BBGGRR (higher bits are dropped).
 } AgingSettings;
 EFFECT_SETTINGS_SIZE(AgingSettings, 100);
+EFFECT_SETTINGS_RANGE(kAgingChannel, 0, 4);
+EFFECT_SETTINGS_RANGE(kAgingMaxScratches, 0, 100);
+EFFECT_SETTINGS_RANGE(kAgingScratchHeight, 1, 1600);
+EFFECT_SETTINGS_RANGE(kAgingDustDensity, 0, 100);
+EFFECT_SETTINGS_RANGE(kAgingDustColorMode, 0, 2);
+EFFECT_SETTINGS_RANGE(kAgingPitsDensity, 0, 100);
+EFFECT_SETTINGS_RANGE(kAgingPitsColorMode, 0, 2);
 
 /// Settings of the Bump Map effect (EffectId 9).
 typedef struct BumpMapSettings {
@@ -226,6 +263,10 @@ typedef struct BumpMapSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } BumpMapSettings;
 EFFECT_SETTINGS_SIZE(BumpMapSettings, 52);
+EFFECT_SETTINGS_RANGE(kBumpMapLightAngle, 0, 360);
+EFFECT_SETTINGS_RANGE(kBumpMapElevation, 0, 90);
+EFFECT_SETTINGS_RANGE(kBumpMapDepth, 1, 65);
+EFFECT_SETTINGS_RANGE(kBumpMapAmbient, 0, 255);
 
 /// Settings of the Dizzy effect (EffectId 10).
 typedef struct DizzySettings {
@@ -239,6 +280,8 @@ typedef struct DizzySettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } DizzySettings;
 EFFECT_SETTINGS_SIZE(DizzySettings, 32);
+EFFECT_SETTINGS_RANGE(kDizzyZoomLevel, 0, 1000);
+EFFECT_SETTINGS_RANGE(kDizzyRotationSpeed, 0, 1000);
 
 /// Settings of the Fire effect (EffectId 11).
 typedef struct FireSettings {
@@ -254,6 +297,11 @@ typedef struct FireSettings {
     int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);       ///< 0 or 1.
 } FireSettings;
 EFFECT_SETTINGS_SIZE(FireSettings, 40);
+EFFECT_SETTINGS_RANGE(kFireGradientLevel, 0, 100);
+EFFECT_SETTINGS_RANGE(kFireColorsOffset, 0, 1000);
+EFFECT_SETTINGS_RANGE(kFireDecay, 1, 100);
+EFFECT_SETTINGS_RANGE(kFireThreshold, 1, 100);
+EFFECT_SETTINGS_RANGE(kFireFlameDirection, 0, 0x1FF);
 
 /// Settings of the Glass Tile effect (EffectId 12).
 typedef struct GlassTileSettings {
@@ -268,6 +316,9 @@ typedef struct GlassTileSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } GlassTileSettings;
 EFFECT_SETTINGS_SIZE(GlassTileSettings, 36);
+EFFECT_SETTINGS_RANGE(kGlassTileWidth, 2, 50);
+EFFECT_SETTINGS_RANGE(kGlassTileHeight, 2, 50);
+EFFECT_SETTINGS_RANGE(kGlassTileRefraction, 2, 10);
 
 /// Settings of the Hologram effect (EffectId 13).
 typedef struct HologramSettings {
@@ -280,6 +331,9 @@ typedef struct HologramSettings {
     int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
 } HologramSettings;
 EFFECT_SETTINGS_SIZE(HologramSettings, 28);
+EFFECT_SETTINGS_RANGE(kHologramHue, 0, 360);
+EFFECT_SETTINGS_RANGE(kHologramNoise, 1, 100);
+EFFECT_SETTINGS_RANGE(kHologramThreshold, 1, 100);
 
 /// Settings of the Lens effect (EffectId 14).
 typedef struct LensSettings {
@@ -293,6 +347,7 @@ typedef struct LensSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } LensSettings;
 EFFECT_SETTINGS_SIZE(LensSettings, 32);
+EFFECT_SETTINGS_RANGE(kLensRefraction, 10, 160);
 
 /// Settings of the Lightning effect (EffectId 15).
 typedef struct LightningSettings {
@@ -302,6 +357,7 @@ typedef struct LightningSettings {
     int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
 } LightningSettings;
 EFFECT_SETTINGS_SIZE(LightningSettings, 16);
+EFFECT_SETTINGS_RANGE(kLightningThreshold, 1, 100);
 
 /// Settings of the Maze effect (EffectId 16).
 typedef struct MazeSettings {
@@ -315,6 +371,7 @@ typedef struct MazeSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } MazeSettings;
 EFFECT_SETTINGS_SIZE(MazeSettings, 32);
+EFFECT_SETTINGS_RANGE(kMazeDivisions, 0, 64);
 
 /// Settings of the Motion Blur effect (EffectId 17).
 typedef struct MotionBlurSettings {
@@ -324,6 +381,9 @@ typedef struct MotionBlurSettings {
     int32_t intervalFrames EFFECT_SETTINGS_DEFAULT(2);  ///< 1 to 200 frames.
 } MotionBlurSettings;
 EFFECT_SETTINGS_SIZE(MotionBlurSettings, 16);
+EFFECT_SETTINGS_RANGE(kMotionBlurHue, 0, 360);
+EFFECT_SETTINGS_RANGE(kMotionBlurThreshold, 1, 100);
+EFFECT_SETTINGS_RANGE(kMotionBlurIntervalFrames, 1, 200);
 
 /// Settings of the Motion Emboss effect (EffectId 18).
 typedef struct MotionEmbossSettings {
@@ -337,6 +397,7 @@ typedef struct MotionEmbossSettings {
     int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
 } MotionEmbossSettings;
 EFFECT_SETTINGS_SIZE(MotionEmbossSettings, 32);
+EFFECT_SETTINGS_RANGE(kMotionEmbossThreshold, 1, 100);  // The others are Emboss's.
 
 /// Settings of the Motion Mosaic effect (EffectId 19).
 typedef struct MotionMosaicSettings {
@@ -347,6 +408,8 @@ typedef struct MotionMosaicSettings {
     int32_t firstFrameReference EFFECT_SETTINGS_DEFAULT(1);  ///< 0 or 1.
 } MotionMosaicSettings;
 EFFECT_SETTINGS_SIZE(MotionMosaicSettings, 20);
+EFFECT_SETTINGS_RANGE(kMotionMosaicSquareSize, 1, 64);
+EFFECT_SETTINGS_RANGE(kMotionMosaicThreshold, 1, 100);
 
 /// Settings of the Motion Scan effect (EffectId 20).
 typedef struct MotionScanSettings {
@@ -367,6 +430,7 @@ typedef struct ParticlesSettings {
     int32_t value EFFECT_SETTINGS_DEFAULT(4);    ///< Distortion, 1 to 6.
 } ParticlesSettings;
 EFFECT_SETTINGS_SIZE(ParticlesSettings, 8);
+EFFECT_SETTINGS_RANGE(kParticlesValue, 1, 6);
 
 /// Settings of the Rain effect (EffectId 22).
 typedef struct RainSettings {
@@ -381,6 +445,8 @@ typedef struct RainSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } RainSettings;
 EFFECT_SETTINGS_SIZE(RainSettings, 36);
+EFFECT_SETTINGS_RANGE(kRainWaveSpeed, 1, 10);
+EFFECT_SETTINGS_RANGE(kRainDensity, 1, 100);
 
 /// Settings of the Streak effect (EffectId 23).
 typedef struct StreakSettings {
@@ -396,6 +462,8 @@ typedef struct WaveSettings {
     int32_t threshold EFFECT_SETTINGS_DEFAULT(70);  ///< 1 to 100.
 } WaveSettings;
 EFFECT_SETTINGS_SIZE(WaveSettings, 12);
+EFFECT_SETTINGS_RANGE(kWaveSpeed, 1, 10);
+EFFECT_SETTINGS_RANGE(kWaveThreshold, 1, 100);
 
 /// Settings of the Emboss effect (EffectId 25).
 typedef struct EmbossSettings {
@@ -411,6 +479,9 @@ typedef struct EmbossSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } EmbossSettings;
 EFFECT_SETTINGS_SIZE(EmbossSettings, 40);
+EFFECT_SETTINGS_RANGE(kEmbossLightAngle, 0, 360);
+EFFECT_SETTINGS_RANGE(kEmbossElevation, 0, 180);
+EFFECT_SETTINGS_RANGE(kEmbossDepth, 1, 100);
 
 /// Settings of the Gamma Correction effect (EffectId 26).
 typedef struct GammaCorrectionSettings {
@@ -418,6 +489,7 @@ typedef struct GammaCorrectionSettings {
     int32_t value EFFECT_SETTINGS_DEFAULT(100);  ///< Gamma factor in hundredths: 1 to 500, 100 is neutral.
 } GammaCorrectionSettings;
 EFFECT_SETTINGS_SIZE(GammaCorrectionSettings, 8);
+EFFECT_SETTINGS_RANGE(kGammaCorrectionValue, 1, 500);
 
 /// Settings of the Mosaic effect (EffectId 27).
 typedef struct MosaicSettings {
@@ -430,6 +502,7 @@ typedef struct MosaicSettings {
     int32_t bottom EFFECT_SETTINGS_DEFAULT(1);
 } MosaicSettings;
 EFFECT_SETTINGS_SIZE(MosaicSettings, 28);
+EFFECT_SETTINGS_RANGE(kMosaicSize, 1, 64);
 
 /// Settings of the Unsharp Mask effect (EffectId 28).
 typedef struct UnsharpMaskSettings {
@@ -439,6 +512,9 @@ typedef struct UnsharpMaskSettings {
     int32_t threshold EFFECT_SETTINGS_DEFAULT(0);  ///< 0 to 255.
 } UnsharpMaskSettings;
 EFFECT_SETTINGS_SIZE(UnsharpMaskSettings, 16);
+EFFECT_SETTINGS_RANGE(kUnsharpMaskAmount, 0, 500);
+EFFECT_SETTINGS_RANGE(kUnsharpMaskRadius, 1, 100);
+EFFECT_SETTINGS_RANGE(kUnsharpMaskThreshold, 0, 255);
 
 /// Settings of the Video Rotation effect (EffectId 29). An angle that is no choice is set to 0 as soon as the dialog
 /// opens, even if it is then cancelled.
@@ -461,6 +537,11 @@ typedef struct AudioChorusSettings {
     int32_t stereo EFFECT_SETTINGS_DEFAULT(90);        ///< 0 to 180 degrees.
 } AudioChorusSettings;
 EFFECT_SETTINGS_SIZE(AudioChorusSettings, 28);
+EFFECT_SETTINGS_RANGE(kAudioChorusDryMix, -100, 100);
+EFFECT_SETTINGS_RANGE(kAudioChorusWetMix, -100, 100);
+EFFECT_SETTINGS_RANGE(kAudioChorusDelay, 0, 500);
+EFFECT_SETTINGS_RANGE(kAudioChorusFeedback, -100, 100);
+EFFECT_SETTINGS_RANGE(kAudioChorusStereo, 0, 180);
 
 /// Results of ShowSettingsDialog.
 enum {
@@ -533,6 +614,17 @@ struct FrameSize {
     int32_t height;
 };
 
+// The ranges that follow the source video's size.
+
+/// Of a shift by up to a side of the video less one pixel, either way. A video of one pixel leaves 0 and 1.
+constexpr Range BumpMapOffset(int32_t side) { return side > 1 ? Range{1 - side, side - 1} : Range{0, 1}; }
+/// Of BumpMapSettings::xOffset.
+constexpr Range BumpMapXOffset(VideoSize video) { return BumpMapOffset(video.width); }
+/// Of BumpMapSettings::yOffset.
+constexpr Range BumpMapYOffset(VideoSize video) { return BumpMapOffset(video.height); }
+/// Of MotionScanSettings::lineIncrement. A video of two lines or less leaves 1.
+constexpr Range MotionScanLineIncrement(VideoSize video) { return {1, video.height > 2 ? video.height - 1 : 1}; }
+
 enum class Result : int32_t {
     NotCreated = kSettingsNotCreated,
     NotShown = kSettingsNotShown,
@@ -555,6 +647,7 @@ Result ShowSettings(IMediaHost* host, VideoSize video, FrameSize frame, Record& 
 #undef EFFECT_SETTINGS_ID
 #undef EFFECT_SETTINGS_DEFAULT
 #undef EFFECT_SETTINGS_SIZE
+#undef EFFECT_SETTINGS_RANGE
 #undef EFFECT_SETTINGS_COUNT
 #undef EFFECT_SETTINGS_EFFECT_OF
 

@@ -12,6 +12,15 @@
 #include "support/expected_calls.h"
 #include "support/recording_host.h"
 
+/// The setters that were called, in one line.
+inline std::string PushesIn(const Lines& calls) {
+    std::string all;
+    for (const std::string& line : calls) {
+        if (line.starts_with("filter.")) all += (all.empty() ? "" : " ") + line.substr(7);
+    }
+    return all;
+}
+
 struct Session {
     Session(EffectId effect, std::vector<std::int32_t> initial, SIZE videoSize = {720, 480},
             SIZE frameSize = {360, 240}, HostOptions options = {})
@@ -28,13 +37,7 @@ struct Session {
     /// All calls since the last time, but for the preview's start, which comes by a timer.
     Lines Calls() { return WithoutRefresh(host.Calls().Take()); }
     /// The setters that were called since the last time, in one line.
-    std::string Pushes() {
-        std::string all;
-        for (const std::string& line : host.Calls().Take()) {
-            if (line.starts_with("filter.")) all += (all.empty() ? "" : " ") + line.substr(7);
-        }
-        return all;
-    }
+    std::string Pushes() { return PushesIn(host.Calls().Take()); }
 
     EffectId id;
     std::vector<std::int32_t> record;
