@@ -79,6 +79,8 @@ protected:
     }
     DECLARE_MESSAGE_MAP()
 
+    const SIZE m_video;  ///< Source video, in pixels.
+    const SIZE m_frame;  ///< Frames as the filter processes them, in pixels.
     CSkinCheckBox m_enable;
     CRect m_helpRect{0, 0, 0, 0};  ///< An empty one shows no help.
 
@@ -86,7 +88,6 @@ private:
     static constexpr int kRowHeight = 20;
 
     bool AttachFilter();
-    void DetachFilter();
     bool Hears(UINT notification, UINT id) const;
     void ShowHelpAt(CPoint point);
     void ShowHelp(LPCWSTR help);
@@ -95,8 +96,8 @@ private:
     const IID& m_propertyInterface;
     const EffectDialogOptions m_options;
     const CBstr m_moniker;  // Made at construction: closing must not need memory.
+    IMediaHost* m_host;     // Null without a host, and once the window is gone.
     ComPtr<IUnknown> m_filter;
-    IMediaHost* m_opening = nullptr;  // The host while the dialog opens; null again once its window is gone.
     CWnd m_preview;
     CSkinButton m_defaultButton;
     CString m_helpText;

@@ -22,10 +22,10 @@ class CBumpMapDlg : public CAreaDlg<EffectId::BumpMap> {
                          {22, L"Ambient(%d - %d):", 0, 255,
                           L"Controls the relative strength of a directional light, used to control "
                           L"the shadow intensity. A higher value results in less shadow."}) &&
-               AddOffset(m_xOffset, {23, L"X offset(%d - %d)", g_VideoWidth, &BumpMapSettings::xOffset,
+               AddOffset(m_xOffset, {23, L"X offset(%d - %d)", m_video.cx, &BumpMapSettings::xOffset,
                                      L"Horizontal offset of the resulting frames. Negative values shift to the left, "
                                      L"positive values shift to the right."}) &&
-               AddOffset(m_yOffset, {24, L"Y offset(%d - %d)", g_VideoHeight, &BumpMapSettings::yOffset,
+               AddOffset(m_yOffset, {24, L"Y offset(%d - %d)", m_video.cy, &BumpMapSettings::yOffset,
                                      L"Vertical offset of the resulting frames. Negative values shift down, positive "
                                      L"values shift up."}) &&
                AddCheckBox(

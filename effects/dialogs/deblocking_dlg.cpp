@@ -67,10 +67,10 @@ class CDeblockingDlg : public CEffectDlg<EffectId::Deblocking> {
     void ApplyToFilter() override {
         Put(&IEffectDeblocking::put_Enable, m_enable);
         Put(&IEffectDeblocking::put_Algorithm, m_algorithm.CurrentIndex());
-        Put(&IEffectDeblocking::put_BlockOffsetX, ScaleToFrame(m_offsetX.Value(), g_VideoWidth, g_FrameWidth));
-        Put(&IEffectDeblocking::put_BlockOffsetY, ScaleToFrame(m_offsetY.Value(), g_VideoHeight, g_FrameHeight));
-        Put(&IEffectDeblocking::put_BlockWidth, ScaleToFrame(m_width.Value(), g_VideoWidth, g_FrameWidth));
-        Put(&IEffectDeblocking::put_BlockHeight, ScaleToFrame(m_height.Value(), g_VideoHeight, g_FrameHeight));
+        Put(&IEffectDeblocking::put_BlockOffsetX, ScaleToFrame(m_offsetX.Value(), m_video.cx, m_frame.cx));
+        Put(&IEffectDeblocking::put_BlockOffsetY, ScaleToFrame(m_offsetY.Value(), m_video.cy, m_frame.cy));
+        Put(&IEffectDeblocking::put_BlockWidth, ScaleToFrame(m_width.Value(), m_video.cx, m_frame.cx));
+        Put(&IEffectDeblocking::put_BlockHeight, ScaleToFrame(m_height.Value(), m_video.cy, m_frame.cy));
         Put(&IEffectDeblocking::put_EdgeThreshold, m_edgeThreshold);
     }
 

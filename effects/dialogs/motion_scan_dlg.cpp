@@ -7,7 +7,7 @@ namespace {
 
 class CMotionScanDlg : public CAreaDlg<EffectId::MotionScan> {
     bool CreateControls() override {
-        const int mostLines = (std::max)(g_VideoHeight, 2) - 1;  // One position at least, whatever the video's size.
+        const int mostLines = (std::max)(m_video.cy, 2L) - 1;  // One position at least, whatever the video's size.
         return AddEnable() &&
                AddSlider(m_lineIncrement, &MotionScanSettings::lineIncrement,
                          {11, L"Line Increment(%d - %d):", 1, mostLines,

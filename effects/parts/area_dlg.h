@@ -23,7 +23,7 @@ protected:
 
     /// The record's area is mended here, before anything is shown. Sliders have the preview panel's usual id.
     CAreaDlg() : CEffectDlg<Id>({.firstSync = FirstSync::BeforeAttach, .previewId = 21, .titleHasSize = true}) {
-        StoreEdges(ClampEffectArea(EdgesOf(*this->m_settings), VideoSize()));
+        StoreEdges(ClampEffectArea(EdgesOf(*this->m_settings), this->m_video));
     }
 
     bool AddArea(const CAreaControls::Texts& texts = {}) {
@@ -106,9 +106,8 @@ private:
     static RECT EdgesOf(const Settings& settings) {
         return {settings.left, settings.top, settings.right, settings.bottom};
     }
-    static SIZE VideoSize() { return {g_VideoWidth, g_VideoHeight}; }
-    static bool IsValid(const RECT& area) { return ValidateEffectArea(area, VideoSize()); }
-    static RECT InFrame(const RECT& area) { return ScaleEffectArea(area, VideoSize(), {g_FrameWidth, g_FrameHeight}); }
+    bool IsValid(const RECT& area) const { return ValidateEffectArea(area, this->m_video); }
+    RECT InFrame(const RECT& area) const { return ScaleEffectArea(area, this->m_video, this->m_frame); }
 
     void StoreEdges(const RECT& area) {
         this->m_settings->left = area.left;
