@@ -99,8 +99,7 @@ bool CEffectSettingsDlg::AttachFilter() {
 }
 
 void CEffectSettingsDlg::OnDestroy() {
-    // A host may handle messages inside the closing calls: neither the timer nor they reach it in between.
-    KillTimer(kPreviewTimer);
+    // Dropped first: a host that handles messages inside the closing calls hears of nothing else, the timer included.
     IMediaHost* host = std::exchange(m_host, nullptr);
     CSkinDialog::OnDestroy();
     ClosePreview(&host, m_info.chain);
