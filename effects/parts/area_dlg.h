@@ -59,9 +59,10 @@ protected:
     }
 
     void SaveSettings() override {
+        const RECT typed = m_area.Typed();  // Read first, too.
         CEffectDlg<Id>::SaveSettings();
         this->m_settings->areaEnabled = m_area.IsOn();
-        StoreEdges(m_area.Typed());
+        StoreEdges(typed);
     }
 
     void SetDefaults() override {

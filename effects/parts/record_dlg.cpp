@@ -60,7 +60,11 @@ void CRecordDlg::SyncControls() {
 }
 
 void CRecordDlg::SaveSettings() {
-    for (const auto& [field, control] : m_fields) field.value = control.get();
+    // All controls are read before the first field is written: reading an edit may need memory.
+    std::vector<std::int32_t> values;
+    for (const auto& [field, control] : m_fields) values.push_back(control.get());
+    auto value = values.begin();
+    for (const auto& [field, control] : m_fields) field.value = *value++;
 }
 
 void CRecordDlg::SetDefaults() {
