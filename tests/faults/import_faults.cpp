@@ -228,6 +228,19 @@ void RunOutOfMemoryAtOk(const Settings&) {
     }
 }
 
+/// However often its button is painted.
+void LookForAMissingPicture(const Settings&) {
+    Import& import = ImportOf("GdipLoadImageFromFile");
+    Try("the close button's picture is missing");
+    ArmImport(import, 0, true);
+    const auto paint = [](HWND dialog) { ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
+    const Scene& scene = Scenes().front();
+    Visit{.effect = scene.effect, .record = RecordOf(scene), .actions = {paint, paint}}.Run();
+    Check(import.calls == 1, "it is looked for " + std::to_string(import.calls) + " times");
+    ArmImport(import, -1);
+    CheckUsual(Look());
+}
+
 }  // namespace
 
 int ShowUsualPicture(std::size_t scene) { return static_cast<int>(Look(Scenes()[scene]).picture); }
@@ -256,6 +269,7 @@ std::vector<Case> ImportFaultCases() {
     if (cases.empty()) return cases;
     cases.push_back({"memory", [](const Settings& settings) { RunOutOfMemory(Scenes().front(), settings); }});
     cases.push_back({"memory.ok", RunOutOfMemoryAtOk});
+    cases.push_back({"picture", LookForAMissingPicture});
     cases.push_back({"memory.list", [](const Settings& settings) { RunOutOfMemory(Scenes().back(), settings); }});
     return cases;
 }
