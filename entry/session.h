@@ -1,4 +1,5 @@
-// The arguments of the running ShowSettingsDialog call. Each call overwrites them; everyone else only reads.
+// The arguments of the latest ShowSettingsDialog call. Each call overwrites them, also one that comes while a dialog is
+// open: a dialog copies what it needs once, at construction.
 #pragma once
 
 struct IMediaHost;

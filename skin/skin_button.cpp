@@ -4,6 +4,7 @@
 
 void CSkinButton::SetPicture(LPCWSTR path) {
     m_pictureFile = path;
+    m_picture = SharedPicture(path);
     Draw();
 }
 
@@ -37,17 +38,16 @@ void CSkinButton::PaintFace(HDC dc, CSize size) const {
 }
 
 void CSkinButton::PaintPicture(HDC dc, CSize size) const {
-    Gdiplus::Bitmap* picture = m_pictureFile.IsEmpty() ? nullptr : SharedPicture(m_pictureFile);
-    if (!picture) return;
-    const int width = static_cast<int>(picture->GetWidth()) / 4;
-    const int height = static_cast<int>(picture->GetHeight());
+    if (!m_picture) return;
+    const int width = static_cast<int>(m_picture->GetWidth()) / 4;
+    const int height = static_cast<int>(m_picture->GetHeight());
     const int frame = !IsEnabled() ? 3 : IsPressed() ? 2 : IsHovered() ? 1 : 0;
     const int shift = IsPressed() ? 1 : 0;
     const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);
     CString key;
     key.Format(L"picture %d %d ", frame, shift);
     DrawKept(dc, CRect(CPoint(0, 0), size), key + m_pictureFile, [&](Gdiplus::Graphics& graphics) {
-        graphics.DrawImage(picture, place, frame * width, 0, width, height, Gdiplus::UnitPixel);
+        graphics.DrawImage(m_picture, place, frame * width, 0, width, height, Gdiplus::UnitPixel);
     });
 }
 

@@ -7,8 +7,8 @@
 
 class CSkinButton : public CSkinItem {
 public:
-    /// A strip of four equal frames side by side: normal, hover, pressed, disabled. Without the file there is
-    /// no picture.
+    /// A strip of four equal frames side by side: normal, hover, pressed, disabled. The file is looked for
+    /// once, here; without it the button has no picture.
     void SetPicture(LPCWSTR path);
     /// A framed button has a face; one that is not framed shows its picture only.
     void SetFramed(bool framed) { m_framed = framed; }
@@ -29,4 +29,5 @@ private:
     bool m_framed = true;
     LPCWSTR m_spokenName = L"";
     CString m_pictureFile;
+    Gdiplus::Bitmap* m_picture = nullptr;  // Shared.
 };

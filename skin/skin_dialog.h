@@ -15,6 +15,7 @@
 #include "skin/skin_control.h"
 #include "skin/skin_static.h"
 
+/// A dialog runs once: neither its answer nor its list of controls is ever reset.
 class CSkinDialog : public CGuarded<CDialog>, public CControlSite {
 public:
     inline static const CRect kNoPlace{0, 0, 0, 0};

@@ -35,7 +35,8 @@ CEffectSettingsDlg::CEffectSettingsDlg(const EffectInfo& info, const CLSID& filt
       m_propertyInterface(propertyInterface),
       m_options(options),
       m_sizes{{g_VideoWidth, g_VideoHeight}, {g_FrameWidth, g_FrameHeight}},
-      m_moniker(MonikerOf(filterClass, info.chain)) {}
+      m_moniker(MonikerOf(filterClass, info.chain)),
+      m_host(g_Host) {}
 
 bool CEffectSettingsDlg::CreateStandardControls() {
     const LPCWSTR blackPanel = AfxRegisterWndClass(
@@ -78,39 +79,33 @@ BOOL CEffectSettingsDlg::OnOpening() {
 }
 
 bool CEffectSettingsDlg::AttachFilter() {
-    m_opening = g_Host;
-    OpenPreview(&m_opening, m_info.chain, m_preview.GetSafeHwnd());
+    OpenPreview(&m_host, m_info.chain, m_preview.GetSafeHwnd());
     const auto attach = m_info.chain == ChainKind::Video ? AttachVideoProcessor : AttachAudioProcessor;
-    if (!attach(&m_opening, m_moniker.Get())) return false;
-    if (const ComPtr<IUnknown> processor = AttachedProcessor(&m_opening, m_info.chain)) {
+    if (!attach(&m_host, m_moniker.Get())) return false;
+    if (const ComPtr<IUnknown> processor = AttachedProcessor(&m_host, m_info.chain)) {
         void* filter = nullptr;
         if (SUCCEEDED(processor->QueryInterface(m_propertyInterface, &filter))) {
             *m_filter.ReleaseAndGetAddressOf() = static_cast<IUnknown*>(filter);
         }
     }
-    if (!m_opening) m_filter.Reset();
+    if (!m_host) m_filter.Reset();
     return true;
 }
 
-void CEffectSettingsDlg::DetachFilter() {
-    m_opening = nullptr;
-    if (IMediaHost* host = g_Host) {
-        ClosePreview(&host, m_info.chain);
-        const auto detach = m_info.chain == ChainKind::Video ? DetachVideoProcessor : DetachAudioProcessor;
-        detach(&host, m_moniker.Get());
-    }
-    m_filter.Reset();
-}
-
 void CEffectSettingsDlg::OnDestroy() {
+    // Dropped first: a host that handles messages inside the closing calls hears of nothing else, the timer included.
+    IMediaHost* host = std::exchange(m_host, nullptr);
     CSkinDialog::OnDestroy();
-    DetachFilter();
+    ClosePreview(&host, m_info.chain);
+    const auto detach = m_info.chain == ChainKind::Video ? DetachVideoProcessor : DetachAudioProcessor;
+    detach(&host, m_moniker.Get());
+    m_filter.Reset();
 }
 
 void CEffectSettingsDlg::OnTimer(UINT_PTR timer) {
     if (timer == kPreviewTimer) {
         KillTimer(kPreviewTimer);
-        if (IMediaHost* const host = g_Host) host->RefreshPreview();
+        if (m_host) m_host->RefreshPreview();
     }
     CSkinDialog::OnTimer(timer);
 }

@@ -85,7 +85,6 @@ protected:
 
 private:
     bool AttachFilter();
-    void DetachFilter();
     bool Hears(UINT notification, UINT id) const;
     void ShowHelpAt(CPoint point);
     void ShowHelp(LPCWSTR help);
@@ -95,8 +94,8 @@ private:
     const EffectDialogOptions m_options;
     const effect_settings::Sizes m_sizes;
     const CBstr m_moniker;  // Made at construction: closing must not need memory.
+    IMediaHost* m_host;     // Null without a host, and once the window is gone.
     ComPtr<IUnknown> m_filter;
-    IMediaHost* m_opening = nullptr;  // The host while the dialog opens; null again once its window is gone.
     CWnd m_preview;
     CSkinButton m_defaultButton;
     CRect m_helpRect{0, 0, 0, 0};  // An empty one shows no help.

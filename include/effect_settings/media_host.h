@@ -29,6 +29,9 @@
 // When attaching fails (no list, or the list of all processors does not hold the filter), a message box says so and
 // the dialog stays open without a filter: RefreshPreview does not come, the calls of closing do.
 //
+// When the dialog's window comes up but one of its controls can't be created, ShowSettingsDialog returns -1 and the calls of
+// closing come without those of opening. When the window itself can't be created, no call comes at all.
+//
 // Every call comes on the thread that called ShowSettingsDialog, from inside that call. Results are
 // looked at only where an operation says so. Slots are places in the interface's function table,
 // counted from 0; the reserved ones are never called by the library. A class that implements an

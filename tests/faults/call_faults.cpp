@@ -24,10 +24,12 @@ void Pump() {
     }
 }
 
-void VisitAnother(bool hasHost) {
+void VisitAnother(bool hasHost, const std::vector<Action>& actions = {}) {
     const EffectRecords& other = AllEffects()[3];
     const Outcome inner =
-        Visit{.effect = other.effect, .record = other.records.front(), .actions = {}, .hasHost = hasHost}.Run();
+        Visit{.effect = other.effect, .record = other.records.front(), .actions = actions, .hasHost = hasHost}.Run();
+    Check(ClosingsIn(inner.calls) == (hasHost ? 1 : 0),
+          "the inner call's host gets the calls of closing more or less than once");
     Check(inner.openReferences == 0 && inner.record == other.records.front(), "the inner call leaves something behind");
 }
 
@@ -78,6 +80,11 @@ Reply PumpThenDestroy(RecordingHost& host) {
     Pump();
     return Reply::Normal;
 }
+template <bool HasHost>
+Reply DestroyDialogInAnother(RecordingHost& host) {
+    VisitAnother(HasHost, {[&host](HWND) { ::DestroyWindow(DialogOf(host)); }});
+    return Reply::Normal;
+}
 Reply Quit(RecordingHost&) {
     ::PostQuitMessage(0);
     return Reply::Normal;
@@ -116,6 +123,9 @@ const Fault kFaults[] = {
          VisitAnother(false);
          return Reply::Normal;
      }},
+    {"opens another, which destroys the dialog", Expected::Destroyed, false, DestroyDialogInAnother<true>},
+    {"opens another without a host, which destroys the dialog", Expected::Destroyed, false,
+     DestroyDialogInAnother<false>},
     {"a call without a host from another thread", Expected::Accepted, false,
      [](RecordingHost&) {
          VisitAnotherOnAThread();
@@ -128,6 +138,7 @@ bool IsSetter(const std::string& call) { return call.starts_with("filter."); }
 void CheckOutcome(const Visit& visit, const Outcome& outcome, const Outcome& usual, Expected expected) {
     Check(outcome.openReferences == 0, "references stay open: " + std::to_string(outcome.openReferences));
     Check(outcome.windowsLeft <= 0, "windows stay");
+    Check(ClosingsIn(outcome.calls) == 1, "the calls of closing come more or less than once");
     const bool saved = outcome.result == kSettingsAccepted;
     Check(outcome.record == visit.record || saved, "the record is written without OK");
     if (expected == Expected::Any) return;
@@ -148,7 +159,9 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
     Visit visit = UsualVisit(effect);
     Lines calls;
     bool isPreviewed = false;
-    visit.onCall = [&](RecordingHost&, int number, const std::string& line) {
+    visit.onCall = [&](RecordingHost& host, int number, const std::string& line) {
+        // The host handles messages meanwhile, and the preview's timer is due.
+        if (line == kPreviewStop) StartPreview(DialogOf(host));
         if (number == kPreviewCall) {
             isPreviewed = true;
         } else {
@@ -169,7 +182,10 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
             if (!kExceptionsCrossModules && fault.happen == &Throw) continue;
             Try("call " + std::to_string(at) + " (" + call + "): " + fault.name);
             visit.onCall = [&](RecordingHost& host, int number, const std::string&) {
-                return number == at ? fault.happen(host) : Reply::Normal;
+                if (number != at) return Reply::Normal;
+                const Reply reply = fault.happen(host);
+                Check(!IsSetter(call) || host.OpenReferences(), "the filter may be destroyed inside its own setter");
+                return reply;
             };
             CheckOutcome(visit, visit.Run(), usual, fault.expected);
             visit.onCall = nullptr;

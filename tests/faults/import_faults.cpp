@@ -202,6 +202,45 @@ void RunOutOfMemory(const Scene& scene, const Settings& settings) {
     }
 }
 
+/// One allocation after the other fails while OK reads the controls: the record is written as a whole or not at all.
+void RunOutOfMemoryAtOk(const Settings&) {
+    const struct {
+        EffectId effect;
+        int lastEdit;
+    } rows[] = {{EffectId::Deblocking, 16}, {EffectId::Color, 20}};
+    Import& import = ImportOf("malloc");
+    for (const auto& row : rows) {
+        bool isFailing = true;
+        for (int call = 0; isFailing; ++call) {
+            Try("no memory for allocation " + std::to_string(call) + " of OK in effect " +
+                std::to_string(static_cast<int>(row.effect)));
+            Visit visit{.effect = row.effect, .record = RecordOf({row.effect, {}})};
+            visit.actions = {ClickEnable, [&](HWND dialog) {
+                                 ::SetDlgItemTextW(dialog, row.lastEdit, L"0000000000000000000000000000000000000042");
+                                 ArmImport(import, call);
+                                 ::SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+                                 isFailing = import.calls > call;
+                                 ArmImport(import, -1);
+                             }};
+            const Outcome outcome = visit.Run();
+            Check(outcome.result == kSettingsAccepted || outcome.record == visit.record, "half a record is written");
+        }
+    }
+}
+
+/// However often its button is painted.
+void LookForAMissingPicture(const Settings&) {
+    Import& import = ImportOf("GdipLoadImageFromFile");
+    Try("the close button's picture is missing");
+    ArmImport(import, 0, true);
+    const auto paint = [](HWND dialog) { ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
+    const Scene& scene = Scenes().front();
+    Visit{.effect = scene.effect, .record = RecordOf(scene), .actions = {paint, paint}}.Run();
+    Check(import.calls == 1, "it is looked for " + std::to_string(import.calls) + " times");
+    ArmImport(import, -1);
+    CheckUsual(Look());
+}
+
 }  // namespace
 
 int ShowUsualPicture(std::size_t scene) { return static_cast<int>(Look(Scenes()[scene]).picture); }
@@ -229,6 +268,8 @@ std::vector<Case> ImportFaultCases() {
     }
     if (cases.empty()) return cases;
     cases.push_back({"memory", [](const Settings& settings) { RunOutOfMemory(Scenes().front(), settings); }});
+    cases.push_back({"memory.ok", RunOutOfMemoryAtOk});
+    cases.push_back({"picture", LookForAMissingPicture});
     cases.push_back({"memory.list", [](const Settings& settings) { RunOutOfMemory(Scenes().back(), settings); }});
     return cases;
 }

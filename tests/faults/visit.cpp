@@ -142,6 +142,8 @@ HWND DialogOf(const RecordingHost& host) {
     return g_lastDialog;
 }
 
+std::ptrdiff_t ClosingsIn(const Lines& calls) { return std::count(calls.begin(), calls.end(), kPreviewStop); }
+
 HWND OwnerWindow() { return g_owner; }
 
 Outcome Visit::Run() const {
@@ -168,7 +170,10 @@ Outcome Visit::Run() const {
     host.Calls().onCall = nullptr;
 
     outcome.record = memory.Values();
-    outcome.calls = WithoutRefresh(host.Calls().Take());
+    const Lines lines = host.Calls().Take();
+    const auto closing = std::find(lines.begin(), lines.end(), kPreviewStop);
+    Check(std::find(closing, lines.end(), kPreviewStart) == lines.end(), "RefreshPreview comes after StopPreview");
+    outcome.calls = WithoutRefresh(lines);
     outcome.openReferences = host.OpenReferences();
     outcome.activeCount = host.ActiveCount();
     outcome.ticks = hands.ticks;

@@ -49,6 +49,9 @@ void PressCancel(HWND dialog);
 /// The preview's start, a change, "Set as default" and OK.
 std::vector<Action> UsualActions();
 
+/// How often a host was told that the preview ends, as each dialog does once.
+std::ptrdiff_t ClosingsIn(const Lines& calls);
+
 /// What the preview's start has for a number.
 constexpr int kPreviewCall = -1;
 

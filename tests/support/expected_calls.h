@@ -22,6 +22,7 @@ inline Lines ClosingCalls() {
 
 /// Comes by a timer, between whatever else happens.
 constexpr char kPreviewStart[] = "host.RefreshPreview()";
+constexpr char kPreviewStop[] = "host.StopPreview()";
 inline Lines WithoutRefresh(Lines lines) {
     std::erase(lines, kPreviewStart);
     return lines;
