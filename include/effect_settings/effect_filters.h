@@ -36,10 +36,13 @@
 // zero (what does not fit gives -2147483648); all other pixels are sent as the user set them.
 //
 // Every call comes on the thread that called ShowSettingsDialog; a filter that processes frames on
-// another thread guards its values itself. The results of setters are not looked at. Slots are
-// places in the interface's function table, counted from 0; the library calls only the named ones.
-// A class that implements the interface leaves the reserved ones as they stand here: they only keep
-// the places.
+// another thread guards its values itself. The results of setters are not looked at. Setters let no
+// exception out: the library that is shipped catches only those of 64-bit filters that GCC built, too;
+// all others, MSVC's among them, end the process.
+//
+// Slots are places in the interface's function table, counted from 0; the library calls only the
+// named ones. A class that implements the interface leaves the reserved ones as they stand here: they
+// only keep the places.
 
 #ifdef __cpp_inline_variables
 #define EFFECT_SETTINGS_CONSTANT inline constexpr
