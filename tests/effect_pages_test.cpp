@@ -6,6 +6,7 @@
 #include <fstream>
 #include <functional>
 #include <initializer_list>
+#include <iomanip>
 #include <limits>
 #include <map>
 #include <regex>
@@ -47,6 +48,7 @@ struct FieldRow {
     Control control;
     std::vector<Choice> choices;
     bool choicesAddUp = false;
+    bool isColor = false;
 };
 
 struct EffectPage {
@@ -177,6 +179,7 @@ std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, st
         const bool isNamedByLabel =
             !item || HasRole(item, {ROLE_SYSTEM_TEXT, ROLE_SYSTEM_COMBOBOX}) || item->Text().IsEmpty();
         facts.label = isNamedByLabel ? LabelOf(dialog, *control, label) : Utf8(item->Text());
+        label = facts.label;  // A box may stand in the place of the next one's label.
         controls[control] = facts;
         inOrder.push_back(facts);
     }
@@ -227,7 +230,12 @@ void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page
         } else if (AsBox(binding.control)) {
             field.hasRange = true;
             field.max = 1;
+        } else if (HasRole(binding.control, {ROLE_SYSTEM_COMBOBOX})) {
+            field.hasRange = true;
+            for (int row = 0; binding.set(row), binding.get() == row; ++row) field.max = row;
+            binding.set(bound.standard);
         }
+        field.isColor = HasRole(binding.control, {ROLE_SYSTEM_GRAPHIC});
     }
     const std::map<std::string, UINT> area = {
         {"areaEnabled", CAreaControls::kSwitchId},
@@ -238,6 +246,8 @@ void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page
     for (FieldRow& field : page.fields) {
         const auto id = area.find(field.name);
         if (id == area.end()) continue;
+        field.hasRange = id->second == CAreaControls::kSwitchId;
+        field.max = 1;
         for (const Control& control : page.controls) {
             if (control.id == id->second) field.control = control;
         }
@@ -346,6 +356,13 @@ std::string Json(const std::vector<EffectPage>& pages) {
     return out.str();
 }
 
+std::string DefaultOf(const FieldRow& field) {
+    if (!field.isColor) return std::to_string(field.standard);
+    std::ostringstream text;
+    text << "0x" << std::hex << std::setw(6) << std::setfill('0') << field.standard;
+    return text.str();
+}
+
 std::string Markdown(const std::vector<EffectPage>& pages) {
     std::ostringstream out;
     out << "# The thirty effects\n\n"
@@ -365,7 +382,7 @@ std::string Markdown(const std::vector<EffectPage>& pages) {
             << TextOf(page.propertyInterface)
             << "`.\n\n| Field | Offset | Default | Range | Meaning | Control |\n|---|---|---|---|---|---|\n";
         for (const FieldRow& field : page.fields) {
-            out << "| " << field.name << " | " << field.offset << " | " << field.standard << " | ";
+            out << "| " << field.name << " | " << field.offset << " | " << DefaultOf(field) << " | ";
             if (field.hasRange) out << field.min << " to " << field.max;
             out << " | " << field.meaning << " | " << field.control.label;
             if (field.choicesAddUp) out << "sum of ";

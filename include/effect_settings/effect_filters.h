@@ -18,20 +18,31 @@
 // already has. When the dialog closes, the filter leaves the chain and the interface is released.
 //
 // A push calls its setters one after the other, in the order that each interface names. The last of
-// them ends the push: a filter that takes its values over together does so there. Edges of an area
-// count as one step of that order, "area edges": right, bottom, left, top. When the user's rectangle
-// is not usable (empty, or over the right or bottom edge of the video) they come as 0, 0, 1, 1 in
-// the order left, top, right, bottom, except where an interface says something else.
+// them ends the push: a filter that takes its values over together does so there. Where that is not
+// always the same setter, the interface says how to tell the end. A push is cut short when the
+// dialog is destroyed meanwhile; the next one begins with the first setter all the same. "Set as
+// default" is one push, or up to five where the dialog has edits: filling each of the four is a
+// push of what is set so far, and the last one has all the defaults. The Auto effects send none.
+//
+// "Area edges" stands for four setters: right, bottom, left, top. When the user's rectangle is not
+// usable (empty, or over the right or bottom edge of the video, be the area on or off), they come as
+// 0, 0, 1, 1 in the order left, top, right, bottom, except where an interface says something else.
 //
 // Values are whole numbers in the units that each setter names; those without a unit are plain
-// levels. Sliders keep them in the range given here. "Frame pixels" are pixels of the frames that
-// the filter processes, converted from pixels of the source video and truncated toward zero (what
-// does not fit gives -2147483648); all other pixels are sent as the user set them.
+// levels. Sliders keep them in the range given here, whatever a host's record holds. A slider between
+// two numbers sends the lower one; below 0 Brightness, Color and Bump Map send the upper one (of
+// -1 and 0 they send 0; OK writes -1) and Audio Chorus the lower. "Frame pixels" are pixels of the
+// frames that the filter processes, converted from pixels of the source video and truncated toward
+// zero (what does not fit gives -2147483648); all other pixels are sent as the user set them.
 //
-// Every call comes on the host's user-interface thread; a filter that processes frames on another
-// thread guards its values itself. The results of setters are not looked at. Slots are places in the
-// interface's function table, counted from 0; the library calls only the named ones, and a class
-// that implements the interface may leave the reserved ones as they stand here.
+// Every call comes on the thread that called ShowSettingsDialog; a filter that processes frames on
+// another thread guards its values itself. The results of setters are not looked at. Setters let no
+// exception out: the library that is shipped catches only those of 64-bit filters that GCC built, too;
+// all others, MSVC's among them, end the process.
+//
+// Slots are places in the interface's function table, counted from 0; the library calls only the
+// named ones. A class that implements the interface leaves the reserved ones as they stand here: they
+// only keep the places.
 
 #ifdef __cpp_inline_variables
 #define EFFECT_SETTINGS_CONSTANT inline constexpr
@@ -117,8 +128,9 @@ EFFECT_SETTINGS_CONSTANT CLSID CLSID_EffectAudioChorus = MakeEffectGuid(0xE2B7DB
 EFFECT_SETTINGS_CONSTANT IID IID_IEffectAudioChorus = MakeEffectGuid(0xE2B7DB39);
 
 /// The rectangle to which an effect is limited, as the filters get it that take structures: by value, in pixels of the
-/// processed frame, right and bottom just outside of the rectangle. Left and top may be negative, right and bottom are
-/// at least 1. When the user's rectangle is not usable it is (0, 0, 1, 1), converted from source pixels.
+/// processed frame, right and bottom just outside of the rectangle. Left and top may be negative; right and bottom are
+/// at least 1 and, in frames that have a size, not outside of the frame. A rectangle of few source pixels may be empty:
+/// 4 to 5 of 720 is 2 to 2 of 360. When the user's is not usable it is (0, 0, 1, 1), converted from source pixels.
 struct AreaParams {
     std::int32_t left;
     std::int32_t top;
@@ -166,7 +178,8 @@ struct IEffectSwitch : IEffectDispatch {
     virtual HRESULT STDMETHODCALLTYPE put_Enable(VARIANT_BOOL enable) = 0;
 };
 
-/// The head of those that can be limited to a rectangle, whose right and bottom edges lie just outside of it.
+/// The head of those that can be limited to a rectangle, whose right and bottom edges lie just outside of it. It may be
+/// empty, as AreaParams may.
 struct IEffectAreaEdges : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. In frame pixels, as all four; may be negative.
@@ -175,10 +188,10 @@ struct IEffectAreaEdges : IEffectSwitch {
     /// Slot 12. May be negative.
     virtual HRESULT STDMETHODCALLTYPE put_AreaTop(LONG top) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(13)
-    /// Slot 14. At least 1.
+    /// Slot 14. At least 1, and not outside of the frame.
     virtual HRESULT STDMETHODCALLTYPE put_AreaRight(LONG right) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(15)
-    /// Slot 16. At least 1.
+    /// Slot 16. At least 1, and not outside of the frame.
     virtual HRESULT STDMETHODCALLTYPE put_AreaBottom(LONG bottom) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(17)
 };
@@ -246,7 +259,7 @@ struct IEffectColor : IUnknown {
 /// put_EdgeThreshold.
 struct IEffectDeblocking : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10. 0 filters two lines at a block's edge, 1 four.
+    /// Slot 10. 0 filters two lines at a block's edge, 1 four; -1 while a host's record names no such algorithm.
     virtual HRESULT STDMETHODCALLTYPE put_Algorithm(LONG algorithm) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     /// Slot 12. In frame pixels. Not checked, as all four: 0 and any number below or above can come.
@@ -291,7 +304,8 @@ struct IEffectEdgeEnhance : IEffectDispatch {
 /// One push: put_Enable, put_AreaEnable, area edges, put_OldColor, put_Channel, put_Scratches, put_MaxScratches,
 /// put_ScratchHeight, put_Dust, put_RandomDust, put_DustRandomDensity, put_AlwaysAddDust, put_DustDensity,
 /// put_DustColorMode, put_DustColor, put_Pits, put_RandomPits, put_PitsRandomDensity, put_AlwaysAddPits,
-/// put_PitsDensity, put_PitsColorMode, put_PitsColor. Channel and colour modes are left out while none is selected.
+/// put_PitsDensity, put_PitsColorMode, put_PitsColor. Channel and colour modes are left out while none is selected
+/// (a host's record named none).
 struct IEffectAging : IEffectAreaEdges {
     /// Slot 18. Where the old colours show: 1 all, 2 to 8 (one bit each) channels 1 to 3, 16 luminance.
     virtual HRESULT STDMETHODCALLTYPE put_Channel(LONG channel) = 0;
@@ -323,7 +337,7 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 36. VARIANT_TRUE adds to every frame, VARIANT_FALSE to random ones.
     virtual HRESULT STDMETHODCALLTYPE put_AlwaysAddDust(VARIANT_BOOL always) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(37)
-    /// Slot 38. The custom colour, a COLORREF (0x00BBGGRR).
+    /// Slot 38. The custom colour, a COLORREF (0x00BBGGRR, no higher bits).
     virtual HRESULT STDMETHODCALLTYPE put_DustColor(LONG color) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(39)
     /// Slot 40. VARIANT_TRUE adds pits.
@@ -350,7 +364,7 @@ struct IEffectAging : IEffectAreaEdges {
     /// Slot 54. 1 random, 2 original (grey), 4 custom.
     virtual HRESULT STDMETHODCALLTYPE put_PitsColorMode(LONG mode) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(55)
-    /// Slot 56. The custom colour, a COLORREF (0x00BBGGRR).
+    /// Slot 56. The custom colour, a COLORREF (0x00BBGGRR, no higher bits).
     virtual HRESULT STDMETHODCALLTYPE put_PitsColor(LONG color) = 0;
 };
 
@@ -368,10 +382,12 @@ struct IEffectBumpMap : IEffectArea {
     /// Slot 24. Depth of the shadows, 1 to 65.
     virtual HRESULT STDMETHODCALLTYPE put_Depth(LONG depth) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(25)
-    /// Slot 26. Shift of the result in source pixels; negative is to the left.
+    /// Slot 26. Shift of the result in source pixels, -(w - 1) to w - 1 for a source video of width w (0 to 1 for
+    /// w < 2); negative is to the left.
     virtual HRESULT STDMETHODCALLTYPE put_XOffset(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(27)
-    /// Slot 28. Shift of the result in source pixels; negative is down.
+    /// Slot 28. Shift of the result in source pixels, -(h - 1) to h - 1 for a source video of height h (0 to 1 for
+    /// h < 2); negative is down.
     virtual HRESULT STDMETHODCALLTYPE put_YOffset(LONG pixels) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(29)
     /// Slot 30. Strength of the ambient light, 0 to 255; more light, less shadow.
@@ -400,7 +416,9 @@ struct IEffectDizzy : IEffectArea {
 /// put_EntireObject, put_ShowBackground, put_NoReference, put_FirstFrameReference.
 struct IEffectFire : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
-    /// Slot 10. Any of the FlameDirection bits.
+    /// Slot 10. Any of the FlameDirection bits (effect_settings.h) and no others: 0x001 north, 0x002 south, 0x004 east,
+    /// 0x008 west, 0x010 north-east, 0x020 north-west, 0x040 south-east, 0x080 south-west, 0x100 all around. 0 only
+    /// while a host's record has none.
     virtual HRESULT STDMETHODCALLTYPE put_FlameDirection(LONG directions) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(11)
     /// Slot 12. 1 to 100; lower gives wider and higher flames.
@@ -433,7 +451,7 @@ struct IEffectFire : IEffectSwitch {
 
 /// Glass Tile (EffectId 12), IID_IEffectGlassTile.
 /// One push: put_Enable, put_TileWidth, put_TileHeight, put_Refraction, put_AreaEnable (left out without a usable
-/// rectangle), area edges.
+/// rectangle), area edges. The fourth edge after put_Enable ends it.
 struct IEffectGlassTile : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. In pixels, 2 to 50.
@@ -471,7 +489,8 @@ struct IEffectHologram : IEffectSwitch {
 };
 
 /// Lens (EffectId 14), IID_IEffectLens.
-/// One push: put_Enable, put_Refraction, put_KeepSurroundings, put_AreaEnable, area edges.
+/// One push: put_Enable, put_Refraction, put_KeepSurroundings, put_AreaEnable, area edges. The fourth edge after
+/// put_Enable ends it.
 struct IEffectLens : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. How strongly the lens bends the light, 10 to 160.
@@ -498,7 +517,7 @@ struct IEffectLightning : IEffectSwitch {
 
 /// Maze (EffectId 16), IID_IEffectMaze.
 /// One push: put_Enable, put_Divisions, put_BreakKind, put_AreaEnable (left out without a usable rectangle), area
-/// edges.
+/// edges. The fourth edge after put_Enable ends it.
 struct IEffectMaze : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Number of divisions of the maze, 0 to 64.
@@ -569,10 +588,12 @@ struct IEffectMotionMosaic : IEffectSwitch {
 };
 
 /// Motion Scan (EffectId 20), IID_IEffectMotionScan.
-/// One push: put_Enable, put_ShowScanLine, put_LineIncrement, put_AreaEnable, area edges.
+/// One push: put_Enable, put_ShowScanLine, put_LineIncrement, put_AreaEnable, area edges. The fourth edge after
+/// put_Enable ends it.
 struct IEffectMotionScan : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
-    /// Slot 20. Lines of the source video that the scan moves on per frame, 1 to the video's height less 1.
+    /// Slot 20. Lines of the source video that the scan moves on per frame, 1 to the video's height less 1, but at
+    /// least 1.
     virtual HRESULT STDMETHODCALLTYPE put_LineIncrement(LONG lines) = 0;
     EFFECT_SETTINGS_RESERVED_SLOT(21)
     /// Slot 22. VARIANT_TRUE shows the line that is scanned.
@@ -588,7 +609,8 @@ struct IEffectParticles : IEffectSwitch {
 };
 
 /// Rain (EffectId 22), IID_IEffectRain.
-/// One push: put_Enable, put_CustomRainDrops, put_WaveSpeed, put_Density, put_AreaEnable, area edges.
+/// One push: put_Enable, put_CustomRainDrops, put_WaveSpeed, put_Density, put_AreaEnable, area edges. The fourth edge
+/// after put_Enable ends it.
 struct IEffectRain : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Speed of the waves, 1 to 10.
@@ -627,11 +649,11 @@ struct EmbossParams {
     std::int32_t depth;              ///< 1 to 100.
     std::int32_t emboss;             ///< 1 embosses, 0 makes a bump map.
     std::int32_t enabled;            ///< 0 or 1; with 0 the filter passes frames through.
-    std::int32_t defaultLightAngle;  ///< Always EmbossSettings' default.
-    std::int32_t defaultElevation;   ///< Likewise.
-    std::int32_t defaultDepth;       ///< Likewise.
-    std::int32_t defaultEmboss;      ///< Likewise.
-    std::int32_t defaultEnabled;     ///< Likewise.
+    std::int32_t defaultLightAngle;  ///< Always 180.
+    std::int32_t defaultElevation;   ///< Always 90.
+    std::int32_t defaultDepth;       ///< Always 50.
+    std::int32_t defaultEmboss;      ///< Always 1.
+    std::int32_t defaultEnabled;     ///< Always 1.
 };
 static_assert(sizeof(EmbossParams) == 40, "EmbossParams");
 
@@ -697,7 +719,7 @@ struct IEffectUnsharpMask : IEffectDispatch {
 
 /// Video Rotation (EffectId 29), IID_IEffectVideoRotation.
 /// One push: put_Flip, put_Reverse, put_Angle; while the effect is off put_Angle(0), put_Flip and put_Reverse with
-/// VARIANT_FALSE.
+/// VARIANT_FALSE. One that begins with put_Flip ends with put_Angle, one that begins with put_Angle with put_Reverse.
 struct IEffectVideoRotation : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     /// Slot 8. VARIANT_TRUE reverses the picture.

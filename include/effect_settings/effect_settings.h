@@ -15,8 +15,8 @@
 // The host keeps one record per effect, for example a GammaCorrectionSettings, and calls
 // effect_settings::ShowSettings with it (from C, ShowSettingsDialog). Three things then happen:
 //
-// - The dialog opens: it takes its values from the record, takes the effect's filter out of the
-//   host's list of processors, puts it into the active chain and sends it all values. Half a second
+// - The dialog opens: it takes its values from the record, adds the effect's filter, which it finds
+//   in the host's list of processors, to the active chain and sends it all values. Half a second
 //   later it asks the host once to start its preview in a panel of the dialog.
 // - A control moves: the new values go to the filter at once, so the preview shows them.
 // - The dialog closes: the filter leaves the chain. The record was written only if the user pressed OK.
@@ -110,11 +110,15 @@ enum { EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_ID) };
 enum { kFirstEffectId = 1, kLastEffectId = 0 EFFECT_SETTINGS_EFFECTS(EFFECT_SETTINGS_COUNT) };
 
 /// Any one of the records below: the one that belongs to the EffectId of the call. Records are owned by the host, read
-/// when the dialog opens and written only when the user presses OK. Values out of a range are clamped when shown and
-/// so come back clamped. Numbers without a unit are plain levels.
+/// when the dialog opens and written only when the user presses OK. Numbers without a unit are plain levels.
 ///
-/// In C++ a new record holds the effect's defaults, which are what "Set as default" sets; in C they can be read below
-/// but have to be filled in. (C++11 then has no GammaCorrectionSettings{1, 100}; C++14 has.)
+/// A host may put in any numbers. Of one out of a slider's range the slider, the filter and after OK the record get the
+/// nearest that is in the range, while the number beside the slider shows it as it came until it is set anew. Where 0
+/// and 1 are the choices any other number counts as 1 and comes back as 1, if nothing else is said.
+///
+/// In C++ a new record holds the effect's defaults; in C they can be read below but have to be filled in. (C++11 then
+/// has no GammaCorrectionSettings{1, 100}; C++14 has.) "Set as default" sets them too, but leaves alone the one switch
+/// of the three Auto effects and AudioChorusSettings::combineWetDry.
 ///
 /// Eleven effects can be limited to a rectangle of the video, their area, whose right and bottom edges lie just outside
 /// of it. It is mended as soon as the dialog opens, in the caller's record and even if the dialog is then cancelled:
@@ -185,10 +189,11 @@ EFFECT_SETTINGS_RANGE(kColorSaturation, -100, 100);
 EFFECT_SETTINGS_RANGE(kColorBrightness, -100, 100);
 EFFECT_SETTINGS_RANGE(kColorContrast, -100, 100);
 
-/// Settings of the Deblocking effect (EffectId 6).
+/// Settings of the Deblocking effect (EffectId 6). An algorithm that is no choice selects none: -1 is sent and comes
+/// back.
 typedef struct DeblockingSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);         ///< 0 or 1.
-    int32_t algorithm EFFECT_SETTINGS_DEFAULT(0);       ///< 0 (two lines) or 1 (four lines).
+    int32_t algorithm EFFECT_SETTINGS_DEFAULT(0);       ///< 0 (two lines), 1 (four lines); any other counts as -1.
     int32_t edgeThreshold EFFECT_SETTINGS_DEFAULT(48);  ///< 0 to 255.
     int32_t blockOffsetX EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video; any number, as typed.
     int32_t blockOffsetY EFFECT_SETTINGS_DEFAULT(0);    ///< In pixels of the source video; any number, as typed.
@@ -246,15 +251,15 @@ EFFECT_SETTINGS_RANGE(kAgingDustColorMode, 0, 2);
 EFFECT_SETTINGS_RANGE(kAgingPitsDensity, 0, 100);
 EFFECT_SETTINGS_RANGE(kAgingPitsColorMode, 0, 2);
 
-/// Settings of the Bump Map effect (EffectId 9).
+/// Settings of the Bump Map effect (EffectId 9). In a video of less than 2 pixels an offset goes from 0 to 1.
 typedef struct BumpMapSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);       ///< 0 or 1.
     int32_t lightAngle EFFECT_SETTINGS_DEFAULT(135);  ///< 0 to 360 degrees.
     int32_t elevation EFFECT_SETTINGS_DEFAULT(45);    ///< 0 to 90 degrees.
     int32_t depth EFFECT_SETTINGS_DEFAULT(3);         ///< 1 to 65.
     int32_t ambient EFFECT_SETTINGS_DEFAULT(0);       ///< 0 to 255.
-    int32_t xOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(w - 1) to w - 1 pixels for a source video of width w.
-    int32_t yOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(h - 1) to h - 1 pixels for a source video of height h.
+    int32_t xOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(w - 1) to w - 1 pixels; w is the source video's width.
+    int32_t yOffset EFFECT_SETTINGS_DEFAULT(0);       ///< -(h - 1) to h - 1 pixels; h is the source video's height.
     int32_t invert EFFECT_SETTINGS_DEFAULT(0);        ///< 0 or 1.
     int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);   ///< 0 or 1.
     int32_t left EFFECT_SETTINGS_DEFAULT(0);          ///< The area: edges in pixels of the source video.
@@ -283,7 +288,7 @@ EFFECT_SETTINGS_SIZE(DizzySettings, 32);
 EFFECT_SETTINGS_RANGE(kDizzyZoomLevel, 0, 1000);
 EFFECT_SETTINGS_RANGE(kDizzyRotationSpeed, 0, 1000);
 
-/// Settings of the Fire effect (EffectId 11).
+/// Settings of the Fire effect (EffectId 11). The user can't clear all directions, but a record may have none.
 typedef struct FireSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);                   ///< 0 or 1.
     int32_t gradientLevel EFFECT_SETTINGS_DEFAULT(50);            ///< 0 to 100 per cent.
@@ -363,7 +368,7 @@ EFFECT_SETTINGS_RANGE(kLightningThreshold, 1, 100);
 typedef struct MazeSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);      ///< 0 or 1.
     int32_t divisions EFFECT_SETTINGS_DEFAULT(8);    ///< 0 to 64.
-    int32_t breakKind EFFECT_SETTINGS_DEFAULT(0);    ///< 0 from the centre, 1 distorted; any other counts as 1.
+    int32_t breakKind EFFECT_SETTINGS_DEFAULT(0);    ///< 0 from the centre, 1 distorted.
     int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1.
     int32_t left EFFECT_SETTINGS_DEFAULT(0);         ///< The area: edges in pixels of the source video.
     int32_t top EFFECT_SETTINGS_DEFAULT(0);
@@ -415,7 +420,7 @@ EFFECT_SETTINGS_RANGE(kMotionMosaicThreshold, 1, 100);
 typedef struct MotionScanSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);        ///< 0 or 1.
     int32_t showScanLine EFFECT_SETTINGS_DEFAULT(1);   ///< 0 or 1.
-    int32_t lineIncrement EFFECT_SETTINGS_DEFAULT(1);  ///< 1 to h - 1 lines for a source video of height h.
+    int32_t lineIncrement EFFECT_SETTINGS_DEFAULT(1);  ///< 1 to h - 1 lines for a video of height h; 1 for h < 2.
     int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);    ///< 0 or 1.
     int32_t left EFFECT_SETTINGS_DEFAULT(0);           ///< The area: edges in pixels of the source video.
     int32_t top EFFECT_SETTINGS_DEFAULT(0);
@@ -471,7 +476,7 @@ typedef struct EmbossSettings {
     int32_t lightAngle EFFECT_SETTINGS_DEFAULT(180);  ///< 0 to 360 degrees.
     int32_t elevation EFFECT_SETTINGS_DEFAULT(90);    ///< 0 to 180 degrees.
     int32_t depth EFFECT_SETTINGS_DEFAULT(50);        ///< 1 to 100.
-    int32_t emboss EFFECT_SETTINGS_DEFAULT(1);        ///< 1 emboss, 0 bump map; any other counts as 1.
+    int32_t emboss EFFECT_SETTINGS_DEFAULT(1);        ///< 1 emboss, 0 bump map.
     int32_t areaEnabled EFFECT_SETTINGS_DEFAULT(0);   ///< 0 or 1.
     int32_t left EFFECT_SETTINGS_DEFAULT(0);          ///< The area: edges in pixels of the source video.
     int32_t top EFFECT_SETTINGS_DEFAULT(0);
@@ -529,7 +534,7 @@ EFFECT_SETTINGS_SIZE(VideoRotationSettings, 16);
 /// Settings of the Audio Chorus effect (EffectId 30).
 typedef struct AudioChorusSettings {
     int32_t enabled EFFECT_SETTINGS_DEFAULT(1);        ///< 0 or 1.
-    int32_t combineWetDry EFFECT_SETTINGS_DEFAULT(0);  ///< 0 or 1; comes back as it was.
+    int32_t combineWetDry EFFECT_SETTINGS_DEFAULT(0);  ///< Not used: neither looked at nor written.
     int32_t dryMix EFFECT_SETTINGS_DEFAULT(70);        ///< -100 to 100 per cent.
     int32_t wetMix EFFECT_SETTINGS_DEFAULT(50);        ///< -100 to 100 per cent.
     int32_t delay EFFECT_SETTINGS_DEFAULT(500);        ///< 0 to 500 milliseconds.
@@ -545,7 +550,8 @@ EFFECT_SETTINGS_RANGE(kAudioChorusStereo, 0, 180);
 
 /// Results of ShowSettingsDialog.
 enum {
-    kSettingsNotCreated = -1,  ///< The dialog's window could not be created.
+    kSettingsNotCreated = -1,  ///< The dialog could not be created or went without an answer: its window was destroyed
+                               ///< from outside, WM_QUIT came, opening failed. The record is as opening left it.
     kSettingsNotShown = 0,     ///< No record, or no such effect: nothing was shown.
     kSettingsAccepted = 1,     ///< OK was pressed: the record holds the new values.
     kSettingsCancelled = 2,    ///< Cancel, Esc, close button: the record is as opening left it.
@@ -558,9 +564,9 @@ extern "C" {
 /// Shows the settings dialog of one effect and returns when the user has closed it. C++ has a call that can't be given
 /// another effect's record: effect_settings::ShowSettings.
 ///
-/// Call it on the thread that runs the host's windows, never on two threads at once and not again
-/// before it has returned. The thread's active window becomes the dialog's owner: it is disabled
-/// while the dialog is open and active again afterwards. The calling thread must have COM
+/// Call it on the thread that runs the host's windows. One more call before it has returned, on this
+/// thread or another, is not supported, but survived. The thread's active window becomes the dialog's
+/// owner: it is disabled while the dialog is open and active again afterwards. The calling thread must have COM
 /// initialised if the host's or the filters' objects need that; the library itself does not.
 ///
 /// @param host         Address of the host's IMediaHost pointer; must be valid. The library borrows the host for

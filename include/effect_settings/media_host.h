@@ -26,8 +26,9 @@
 //   SetPreviewWindow(panel), SetPreviewOption(0), SetPreviewMode(0), EnableVideoPreview(0), and closes with
 //   StopPreview, ResetPreview, SetPreviewRange(0, 0), SetPreviewWindow(0), EnableVideoPreview(0), SetPreviewMode(1).
 //
-// When attaching fails (no list, or the list of all processors does not hold the filter), a message box says so and
-// the dialog stays open without a filter: RefreshPreview does not come, the calls of closing do.
+// When attaching fails (no list, the list of all processors does not hold the filter, or GetItem gives no item), a
+// message box says so and the dialog stays open without a filter: Add, GetProcessorObject and RefreshPreview do not
+// come, the calls of closing do.
 //
 // When the dialog's window comes up but one of its controls can't be created, ShowSettingsDialog returns -1 and the calls of
 // closing come without those of opening. When the window itself can't be created, no call comes at all.
@@ -63,12 +64,13 @@ struct IProcessorList : IHostDispatch {
 
     /// Slot 8. Gives one processor of the list.
     /// @param index  From 0, as FindByMoniker gave it.
-    /// @param item   Receives a new reference, which the caller releases; null on failure.
+    /// @param item   Receives a new reference, which the caller releases; null on failure. Only this is looked at: with
+    ///               null the attach fails, as it does when the list does not hold the processor.
     virtual HRESULT STDMETHODCALLTYPE GetItem(LONG index, IUnknown** item) = 0;
 
     EFFECT_SETTINGS_RESERVED_SLOT(9)
 
-    /// Slot 10. Looks a processor up.
+    /// Slot 10. Looks a processor up. A failure counts as not held.
     /// @param moniker  The processor's moniker; the caller keeps and frees the string.
     /// @param index    Receives its index from 0, or -1 when the list does not hold it. The index is used
     ///                 in the next call and never kept.
