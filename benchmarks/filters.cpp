@@ -50,12 +50,12 @@ double MsPerFrame(const Effect& effect, const Record& record, const std::vector<
 }
 
 /// The defaults, with each value that has a range at one end of it; the switch and the area stay as they are.
-Record AtEnd(const Effect& effect, std::int32_t Field::*end) {
+Record AtEnd(const Effect& effect, std::int32_t effect_settings::Range::*end) {
     Record record = effect.defaults;
     for (std::size_t index = 1; index < record.size(); ++index) {
         const Field& field = effect.fields[index];
-        const bool isRange = field.max < 0x10000 && field.min > -0x10000;
-        if (isRange && std::string(field.name) != "areaEnabled") record[index] = field.*end;
+        const bool isRange = field.range.max < 0x10000 && field.range.min > -0x10000;
+        if (isRange && std::string(field.name) != "areaEnabled") record[index] = field.range.*end;
     }
     return record;
 }
@@ -70,9 +70,9 @@ void MeasureFilters() {
     std::printf("%-18s %10s %10s %10s\n", "median", "defaults", "smallest", "largest");
     for (const Effect& effect : AllEffects()) {
         if (effect.IsAudio()) continue;
-        const double times[] = {
-            MsPerFrame(effect, effect.defaults, scene), MsPerFrame(effect, AtEnd(effect, &Field::min), scene),
-            MsPerFrame(effect, AtEnd(effect, &Field::max), scene)};
+        const double times[] = {MsPerFrame(effect, effect.defaults, scene),
+                                MsPerFrame(effect, AtEnd(effect, &effect_settings::Range::min), scene),
+                                MsPerFrame(effect, AtEnd(effect, &effect_settings::Range::max), scene)};
         const bool isMet = *std::max_element(std::begin(times), std::end(times)) <= kMostMs;
         std::printf(
             "%-18s %10.2f %10.2f %10.2f%s\n", effect.name, times[0], times[1], times[2], isMet ? "" : "   too slow");

@@ -2,14 +2,44 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 
 #include "check/host_checks.h"
-#include "check/recording_filters.h"
 #include "check/recording_host.h"
+#include "demo_host/filters/filter.h"
+#include "effect_settings/preview_host.h"
 
 namespace {
 
+using effect_settings::PreviewHost;
+using effect_settings::PreviewPicture;
+
 constexpr char kPush[] = "filter: all values";
+
+CLSID FilterClassOf(EffectId effect) {
+    switch (effect) {
+#define CLASS(name, number) \
+    case EffectId::name:    \
+        return CLSID_Effect##name;
+        EFFECT_SETTINGS_EFFECTS(CLASS)
+#undef CLASS
+    }
+    return CLSID_NULL;
+}
+
+/// The player where no other is given: its filter is the demo's, which writes down every setter that is called.
+class OwnPlayer : public PreviewPicture {
+public:
+    OwnPlayer(EffectId effect, CallLog& log)
+        : m_filter(MakeFilter(effect, [&log](const std::string& setter) { log.Add(setter); })),
+          m_host(*m_filter.Get(), FilterClassOf(effect), effect == EffectId::AudioChorus, *this) {}
+    IMediaHost& Host() { return m_host; }
+    void Draw(HDC, const RECT&, double) override {}
+
+private:
+    ComPtr<IDemoFilter> m_filter;
+    PreviewHost m_host;
+};
 
 /// Closes the thread's dialog once its preview runs, as the close button does; waits no longer than for that.
 class Closer {
@@ -132,7 +162,7 @@ Calls WithoutSetters(const Calls& calls) {
 
 Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostFunction createHost, CallLog& log) {
     Findings findings;
-    std::unique_ptr<RecordingPlayer> player;
+    std::unique_ptr<OwnPlayer> player;
     IMediaHost* own = nullptr;
     if (createHost) {
         log.Begin("CreateEffectSettingsHost()");
@@ -145,7 +175,7 @@ Findings RunEffect(ShowSettingsDialogFunction show, EffectId effect, CreateHostF
             return findings;
         }
     } else {
-        player = MakeRecordingPlayer(effect, log);
+        player = std::make_unique<OwnPlayer>(effect, log);
     }
 
     {

@@ -211,7 +211,8 @@ int WriteGallery(CPlayer& player, CPlayerWindow& window, std::vector<EffectState
     int exitCode = kExitOk;
     for (const Effect& effect : AllEffects()) {
         const std::string name = effect.name;
-        std::printf("%2d of %d  %s  ", static_cast<int>(effect.id), static_cast<int>(kLastEffectId), effect.name);
+        std::printf(
+            "%2d of %d  %s  ", static_cast<int>(effect.id), static_cast<int>(kLastEffectId), effect.name.c_str());
         std::fflush(stdout);
         states = DefaultStates();
         for (const auto& [id, settings] : kGallery) {
@@ -277,7 +278,8 @@ int Run(const Options& options) {
         return kExitOk;
     }
     if (options.list) {
-        for (const Effect& effect : AllEffects()) std::printf("%2d  %s\n", static_cast<int>(effect.id), effect.name);
+        for (const Effect& effect : AllEffects())
+            std::printf("%2d  %s\n", static_cast<int>(effect.id), effect.name.c_str());
         return kExitOk;
     }
     if (options.trace) EnableTrace();

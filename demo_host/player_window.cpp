@@ -166,7 +166,7 @@ void CPlayerWindow::Run() {
 effect_settings::Result CPlayerWindow::ShowSettings(const Effect& effect) {
     EffectState& state = StateOf(m_states, effect);
     EffectState changed = state;
-    const effect_settings::Result result = effect.show(&m_player, m_player.PictureSizes(), changed.record);
+    const effect_settings::Result result = effect.Show(&m_player, m_player.PictureSizes(), changed.record);
     if (result == effect_settings::Result::Accepted) {
         changed.checked = true;
         state = changed;

@@ -8,7 +8,7 @@
 
 namespace {
 
-const Field kChecked{"checked", 0, 1};
+const Field kChecked{"checked", kOnOff};
 
 std::string_view Trim(std::string_view text) {
     constexpr std::string_view kBlank = " \t\r";
@@ -20,7 +20,7 @@ std::string_view Trim(std::string_view text) {
 std::optional<std::int32_t> NumberIn(std::string_view text, const Field& field) {
     std::int32_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size() || number < field.min || number > field.max) {
+    if (error != std::errc{} || end != text.data() + text.size() || number != field.range.Clamp(number)) {
         return std::nullopt;
     }
     return number;
@@ -61,8 +61,8 @@ std::string ParseLine(std::string_view line, std::set<std::string>& seen, std::v
     if (!seen.insert(name).second) return name + ": is there twice";
     const std::optional<std::int32_t> number = NumberIn(value, *place.field);
     if (!number) {
-        return name + ": '" + std::string(value) + "' is not a whole number from " + std::to_string(place.field->min) +
-               " to " + std::to_string(place.field->max);
+        return name + ": '" + std::string(value) + "' is not a whole number from " +
+               std::to_string(place.field->range.min) + " to " + std::to_string(place.field->range.max);
     }
     if (place.field == &kChecked) {
         place.state->checked = *number != 0;
@@ -111,7 +111,7 @@ std::string FormatSettings(const std::vector<EffectState>& states) {
     for (std::size_t place = 0; place < states.size(); ++place) {
         const Effect& effect = AllEffects()[place];
         const auto add = [&](const char* field, std::int32_t value) {
-            text += std::string(effect.name) + "." + field + " = " + std::to_string(value) + "\n";
+            text += effect.name + "." + field + " = " + std::to_string(value) + "\n";
         };
         text += "\n";
         add(kChecked.name, states[place].checked);

@@ -31,9 +31,9 @@ TEST(DemoSettings, EveryFieldOfEveryRecordComesBack) {
         ASSERT_EQ(fields.size(), states[effect].record.size()) << AllEffects()[effect].name;
         states[effect].checked = effect % 2 != 0;
         for (std::size_t field = 0; field < fields.size(); ++field) {
-            EXPECT_GE(states[effect].record[field], fields[field].min) << fields[field].name;
-            EXPECT_LE(states[effect].record[field], fields[field].max) << fields[field].name;
-            states[effect].record[field] = field % 2 != 0 ? fields[field].min : fields[field].max;
+            EXPECT_GE(states[effect].record[field], fields[field].range.min) << fields[field].name;
+            EXPECT_LE(states[effect].record[field], fields[field].range.max) << fields[field].name;
+            states[effect].record[field] = field % 2 != 0 ? fields[field].range.min : fields[field].range.max;
         }
     }
     std::vector<EffectState> read;
@@ -73,34 +73,6 @@ TEST(DemoSettings, BadContentIsNamedByLineAndField) {
 }
 
 // --- the player ---
-
-/// A value that is not the default of most fields and that every dialog keeps.
-std::int32_t Telling(const Field& field) {
-    const std::map<std::string, std::int32_t> fixed = {
-        {"left", 10}, {"top", 20}, {"right", 300}, {"bottom", 200}, {"angle", 90}};
-    if (const auto found = fixed.find(field.name); found != fixed.end()) return found->second;
-    const std::int64_t middle = (std::int64_t{field.min} + field.max) / 2;
-    return static_cast<std::int32_t>(field.put && middle < 0 ? 2 : middle + 1);
-}
-
-TEST(DemoPlayer, ARecordReachesTheFilterAsTheDialogSendsIt) {
-    for (const Effect& effect : AllEffects()) {
-        Record telling;
-        for (const Field& field : effect.fields) telling.push_back(Telling(field));
-        for (const Record& record : {effect.defaults, telling}) {
-            Session session(effect.id, record);
-            session.Run([](DialogDriver&) {});
-            std::set<std::string> fromDialog;
-            for (const std::string& line : session.host.Calls().Take()) {
-                if (line.starts_with("filter.")) fromDialog.insert(line);
-            }
-            std::set<std::string> own;
-            const auto filter = MakeFilter(effect.id, [&own](const std::string& line) { own.insert(line); });
-            effect.Push(*filter.Get(), record, {{720, 480}, {360, 240}});
-            EXPECT_EQ(own, fromDialog) << effect.name;
-        }
-    }
-}
 
 TEST(DemoPlayer, OnlyAcceptedValuesStayInForce) {
     const Effect& mosaic = EffectOf(EffectId::Mosaic);

@@ -138,3 +138,31 @@ private:
 }  // namespace
 
 IDemoFilter* MakeAgingFilter(TraceSink trace) { return new CAgingFilter(std::move(trace)); }
+Fields AgingFields() {
+    return {
+        kEnabled,
+        kAreaEnabled,
+        kLeft,
+        kTop,
+        kRight,
+        kBottom,
+        {"oldColor", kOnOff},
+        {"channel"},
+        {"scratches", kOnOff},
+        {"maxScratches", kAgingMaxScratches},
+        {"scratchHeight", kAgingScratchHeight},
+        {"dust", kOnOff},
+        {"randomDust", kOnOff},
+        {"dustRandomDensity", kOnOff},
+        {"alwaysAddDust", kOnOff},
+        {"dustDensity", kAgingDustDensity},
+        {"dustColorMode"},
+        {"dustColor", kColors},
+        {"pits", kOnOff},
+        {"randomPits", kOnOff},
+        {"pitsRandomDensity", kOnOff},
+        {"alwaysAddPits", kOnOff},
+        {"pitsDensity", kAgingPitsDensity},
+        {"pitsColorMode"},
+        {"pitsColor", kColors}};
+}

@@ -92,3 +92,12 @@ private:
 }  // namespace
 
 IDemoFilter* MakeAudioChorusFilter(TraceSink trace) { return new CAudioChorusFilter(std::move(trace)); }
+Fields AudioChorusFields() {
+    return {kEnabled,
+            {"combineWetDry", kOnOff},
+            {"dryMix", kAudioChorusDryMix},
+            {"wetMix", kAudioChorusWetMix},
+            {"delay", kAudioChorusDelay},
+            {"feedback", kAudioChorusFeedback},
+            {"stereo", kAudioChorusStereo}};
+}

@@ -86,5 +86,8 @@ private:
 }  // namespace
 
 IDemoFilter* MakeAutoContrastFilter(TraceSink trace) { return new CAutoContrastFilter(std::move(trace)); }
+Fields AutoContrastFields() { return {kEnabled}; }
 IDemoFilter* MakeAutoIntensityFilter(TraceSink trace) { return new CAutoIntensityFilter(std::move(trace)); }
+Fields AutoIntensityFields() { return {kEnabled}; }
 IDemoFilter* MakeAutoLevelFilter(TraceSink trace) { return new CAutoLevelFilter(std::move(trace)); }
+Fields AutoLevelFields() { return {kEnabled}; }

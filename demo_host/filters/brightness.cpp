@@ -23,3 +23,9 @@ private:
 }  // namespace
 
 IDemoFilter* MakeBrightnessFilter(TraceSink trace) { return new CBrightnessFilter(std::move(trace)); }
+Fields BrightnessFields() {
+    return {kEnabled,
+            {"firstFrameReference", kOnOff},
+            {"threshold", kBrightnessThreshold},
+            {"brightness", kBrightnessBrightness}};
+}

@@ -61,3 +61,18 @@ private:
 }  // namespace
 
 IDemoFilter* MakeBumpMapFilter(TraceSink trace) { return new CBumpMapFilter(std::move(trace)); }
+Fields BumpMapFields() {
+    return {kEnabled,
+            {"lightAngle", kBumpMapLightAngle},
+            {"elevation", kBumpMapElevation},
+            {"depth", kBumpMapDepth},
+            {"ambient", kBumpMapAmbient},
+            {"xOffset"},
+            {"yOffset"},
+            {"invert", kOnOff},
+            kAreaEnabled,
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

@@ -76,3 +76,16 @@ private:
 }  // namespace
 
 IDemoFilter* MakeColorFilter(TraceSink trace) { return new CColorFilter(std::move(trace)); }
+Fields ColorFields() {
+    return {kEnabled,
+            {"invert", kOnOff},
+            kAreaEnabled,
+            {"hue", kColorHue},
+            {"saturation", kColorSaturation},
+            {"brightness", kColorBrightness},
+            {"contrast", kColorContrast},
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

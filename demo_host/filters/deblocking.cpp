@@ -75,3 +75,12 @@ private:
 }  // namespace
 
 IDemoFilter* MakeDeblockingFilter(TraceSink trace) { return new CDeblockingFilter(std::move(trace)); }
+Fields DeblockingFields() {
+    return {kEnabled,
+            {"algorithm", kDeblockingAlgorithm},
+            {"edgeThreshold", kDeblockingEdgeThreshold},
+            {"blockOffsetX"},
+            {"blockOffsetY"},
+            {"blockWidth"},
+            {"blockHeight"}};
+}

@@ -55,3 +55,13 @@ private:
 }  // namespace
 
 IDemoFilter* MakeDizzyFilter(TraceSink trace) { return new CDizzyFilter(std::move(trace)); }
+Fields DizzyFields() {
+    return {kEnabled,
+            {"zoomLevel", kDizzyZoomLevel},
+            {"rotationSpeed", kDizzyRotationSpeed},
+            kAreaEnabled,
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

@@ -38,3 +38,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeEdgeEnhanceFilter(TraceSink trace) { return new CEdgeEnhanceFilter(std::move(trace)); }
+Fields EdgeEnhanceFields() { return {kEnabled, {"multiplierEnabled", kOnOff}, {"multiplier", kEdgeEnhanceMultiplier}}; }

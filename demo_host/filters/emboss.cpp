@@ -32,3 +32,15 @@ private:
 }  // namespace
 
 IDemoFilter* MakeEmbossFilter(TraceSink trace) { return new CEmbossFilter(std::move(trace)); }
+Fields EmbossFields() {
+    return {kEnabled,
+            {"lightAngle", kEmbossLightAngle},
+            {"elevation", kEmbossElevation},
+            {"depth", kEmbossDepth},
+            {"emboss", kOnOff},
+            kAreaEnabled,
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

@@ -135,3 +135,15 @@ private:
 }  // namespace
 
 IDemoFilter* MakeFireFilter(TraceSink trace) { return new CFireFilter(std::move(trace)); }
+Fields FireFields() {
+    return {kEnabled,
+            {"gradientLevel", kFireGradientLevel},
+            {"colorsOffset", kFireColorsOffset},
+            {"decay", kFireDecay},
+            {"threshold", kFireThreshold},
+            {"flameDirection", kFireFlameDirection},
+            {"entireObject", kOnOff},
+            {"showBackground", kOnOff},
+            {"noReference", kOnOff},
+            {"firstFrameReference", kOnOff}};
+}

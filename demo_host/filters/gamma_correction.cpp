@@ -39,3 +39,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeGammaCorrectionFilter(TraceSink trace) { return new CGammaCorrectionFilter(std::move(trace)); }
+Fields GammaCorrectionFields() { return {kEnabled, {"value", kGammaCorrectionValue}}; }

@@ -38,3 +38,14 @@ private:
 }  // namespace
 
 IDemoFilter* MakeGlassTileFilter(TraceSink trace) { return new CGlassTileFilter(std::move(trace)); }
+Fields GlassTileFields() {
+    return {kEnabled,
+            {"tileWidth", kGlassTileWidth},
+            {"tileHeight", kGlassTileHeight},
+            {"refraction", kGlassTileRefraction},
+            kAreaEnabled,
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

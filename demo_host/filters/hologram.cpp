@@ -42,3 +42,12 @@ private:
 }  // namespace
 
 IDemoFilter* MakeHologramFilter(TraceSink trace) { return new CHologramFilter(std::move(trace)); }
+Fields HologramFields() {
+    return {kEnabled,
+            {"hue", kHologramHue},
+            {"noise", kHologramNoise},
+            {"threshold", kHologramThreshold},
+            {"lineNoise", kOnOff},
+            {"noReference", kOnOff},
+            {"firstFrameReference", kOnOff}};
+}

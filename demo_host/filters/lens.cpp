@@ -48,3 +48,7 @@ private:
 }  // namespace
 
 IDemoFilter* MakeLensFilter(TraceSink trace) { return new CLensFilter(std::move(trace)); }
+Fields LensFields() {
+    return {kEnabled, {"refraction", kLensRefraction}, {"keepSurroundings", kOnOff}, kAreaEnabled, kLeft, kTop, kRight,
+            kBottom};
+}

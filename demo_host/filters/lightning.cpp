@@ -81,3 +81,6 @@ private:
 }  // namespace
 
 IDemoFilter* MakeLightningFilter(TraceSink trace) { return new CLightningFilter(std::move(trace)); }
+Fields LightningFields() {
+    return {kEnabled, {"threshold", kLightningThreshold}, {"noReference", kOnOff}, {"firstFrameReference", kOnOff}};
+}

@@ -83,3 +83,6 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMazeFilter(TraceSink trace) { return new CMazeFilter(std::move(trace)); }
+Fields MazeFields() {
+    return {kEnabled, {"divisions", kMazeDivisions}, {"breakKind", kOnOff}, kAreaEnabled, kLeft, kTop, kRight, kBottom};
+}

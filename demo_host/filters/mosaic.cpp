@@ -25,3 +25,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMosaicFilter(TraceSink trace) { return new CMosaicFilter(std::move(trace)); }
+Fields MosaicFields() { return {kEnabled, {"mosaicSize", kMosaicSize}, kAreaEnabled, kLeft, kTop, kRight, kBottom}; }

@@ -45,3 +45,9 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMotionBlurFilter(TraceSink trace) { return new CMotionBlurFilter(std::move(trace)); }
+Fields MotionBlurFields() {
+    return {kEnabled,
+            {"hue", kMotionBlurHue},
+            {"threshold", kMotionBlurThreshold},
+            {"intervalFrames", kMotionBlurIntervalFrames}};
+}

@@ -38,3 +38,13 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMotionEmbossFilter(TraceSink trace) { return new CMotionEmbossFilter(std::move(trace)); }
+Fields MotionEmbossFields() {
+    return {kEnabled,
+            {"lightAngle", kEmbossLightAngle},
+            {"elevation", kEmbossElevation},
+            {"depth", kEmbossDepth},
+            {"threshold", kMotionEmbossThreshold},
+            {"bumpMap", kOnOff},
+            {"noReference", kOnOff},
+            {"firstFrameReference", kOnOff}};
+}

@@ -30,3 +30,10 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMotionMosaicFilter(TraceSink trace) { return new CMotionMosaicFilter(std::move(trace)); }
+Fields MotionMosaicFields() {
+    return {kEnabled,
+            {"squareSize", kMotionMosaicSquareSize},
+            {"threshold", kMotionMosaicThreshold},
+            {"noReference", kOnOff},
+            {"firstFrameReference", kOnOff}};
+}

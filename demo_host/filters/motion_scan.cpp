@@ -35,3 +35,6 @@ private:
 }  // namespace
 
 IDemoFilter* MakeMotionScanFilter(TraceSink trace) { return new CMotionScanFilter(std::move(trace)); }
+Fields MotionScanFields() {
+    return {kEnabled, {"showScanLine", kOnOff}, {"lineIncrement"}, kAreaEnabled, kLeft, kTop, kRight, kBottom};
+}

@@ -73,3 +73,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeParticlesFilter(TraceSink trace) { return new CParticlesFilter(std::move(trace)); }
+Fields ParticlesFields() { return {kEnabled, {"value", kParticlesValue}}; }

@@ -57,3 +57,14 @@ private:
 }  // namespace
 
 IDemoFilter* MakeRainFilter(TraceSink trace) { return new CRainFilter(std::move(trace)); }
+Fields RainFields() {
+    return {kEnabled,
+            {"customRainDrops", kOnOff},
+            {"waveSpeed", kRainWaveSpeed},
+            {"density", kRainDensity},
+            kAreaEnabled,
+            kLeft,
+            kTop,
+            kRight,
+            kBottom};
+}

@@ -50,3 +50,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeStreakFilter(TraceSink trace) { return new CStreakFilter(std::move(trace)); }
+Fields StreakFields() { return {kEnabled, {"heavyMode", kOnOff}}; }

@@ -36,3 +36,7 @@ private:
 }  // namespace
 
 IDemoFilter* MakeUnsharpMaskFilter(TraceSink trace) { return new CUnsharpMaskFilter(std::move(trace)); }
+Fields UnsharpMaskFields() {
+    return {
+        kEnabled, {"amount", kUnsharpMaskAmount}, {"radius", kUnsharpMaskRadius}, {"threshold", kUnsharpMaskThreshold}};
+}

@@ -42,3 +42,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeVideoRotationFilter(TraceSink trace) { return new CVideoRotationFilter(std::move(trace)); }
+Fields VideoRotationFields() { return {kEnabled, {"reverse", kOnOff}, {"flip", kOnOff}, {"angle", {0, 270}}}; }

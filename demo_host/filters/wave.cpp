@@ -37,3 +37,4 @@ private:
 }  // namespace
 
 IDemoFilter* MakeWaveFilter(TraceSink trace) { return new CWaveFilter(std::move(trace)); }
+Fields WaveFields() { return {kEnabled, {"waveSpeed", kWaveSpeed}, {"threshold", kWaveThreshold}}; }

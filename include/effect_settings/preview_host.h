@@ -130,13 +130,15 @@ class PreviewHost : public IMediaHost {
 public:
     template <typename Interface>
     explicit PreviewHost(PreviewFilter<Interface>& filter)
-        : m_all(m_moniker, static_cast<Interface*>(&filter)),
-          m_active(m_moniker),
-          m_isAudio(FilterIds<Interface>::kIsAudio),
-          m_filter(static_cast<Interface*>(&filter)),
-          m_picture(filter) {
-        const GUID& category = m_isAudio ? CATID_EffectAudioProcessor : CATID_EffectVideoProcessor;
-        wchar_t* const end = Append(Append(m_moniker, L"@device:sw:", category), L"\\", FilterIds<Interface>::Class());
+        : PreviewHost(
+              static_cast<Interface&>(filter), FilterIds<Interface>::Class(), FilterIds<Interface>::kIsAudio, filter) {}
+    /// For a filter that is no PreviewFilter.
+    /// @param filter       Its processor object, borrowed as long as the host lives.
+    /// @param filterClass  By which the dialog looks it up.
+    PreviewHost(IUnknown& filter, const CLSID& filterClass, bool isAudio, PreviewPicture& picture)
+        : m_all(m_moniker, &filter), m_active(m_moniker), m_isAudio(isAudio), m_filter(&filter), m_picture(picture) {
+        const GUID& category = isAudio ? CATID_EffectAudioProcessor : CATID_EffectVideoProcessor;
+        wchar_t* const end = Append(Append(m_moniker, L"@device:sw:", category), L"\\", filterClass);
         *end = L'\0';
     }
     PreviewHost(const PreviewHost&) = delete;
