@@ -65,8 +65,7 @@ protected:
     void Bind(SettingsField field, const Binding& binding) { CRecordDlg::Bind(Of(field), binding); }
 
     /// One call of a push. It does nothing without a filter: before the attach, and once the window is gone, which may
-    /// happen inside any of these calls. A filter that throws counts as one that fails, if its compiler's exceptions are
-    /// this one's: neither is looked at.
+    /// happen inside any of these calls. A filter that throws counts as one that fails: neither is looked at.
     template <typename Interface, typename Parameter>
     void Put(HRESULT (STDMETHODCALLTYPE Interface::*setter)(Parameter), std::type_identity_t<Parameter> value) {
         const ComPtr<IUnknown> filter = PropertyInterface();
