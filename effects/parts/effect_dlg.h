@@ -75,8 +75,8 @@ protected:
     }
 
     /// Sends what the controls show, call by call: a setter may close the window, which ends the push, and is called with
-    /// a reference of its own, so that the filter outlives it. A filter that throws counts as one that fails, if its
-    /// compiler's exceptions are this one's: neither is looked at.
+    /// a reference of its own, so that the filter outlives it. A filter that throws counts as one that fails:
+    /// neither is looked at.
     void ApplyToFilter() override {
         Settings sent = *m_settings;
         ReadSent(reinterpret_cast<const std::int32_t*>(m_settings), reinterpret_cast<std::int32_t*>(&sent));

@@ -37,8 +37,8 @@
 //
 // Every call comes on the thread that called ShowSettingsDialog; a filter that processes frames on
 // another thread guards its values itself. The results of setters are not looked at. Setters let no
-// exception out: the library that is shipped catches only those of 64-bit filters that GCC built, too;
-// all others, MSVC's among them, end the process.
+// exception out: C++ exceptions of filters built with GCC or MSVC are caught with 64 bits, and end the
+// process with 32.
 //
 // Slots are places in the interface's function table, counted from 0; the library calls only the
 // named ones. A class that implements the interface leaves the reserved ones as they stand here: they

@@ -65,6 +65,11 @@ struct Fault {
 };
 
 Reply Throw(RecordingHost&) { throw std::runtime_error("setter"); }
+Reply ThrowAsMsvc(RecordingHost&) {
+    const ULONG_PTR parameters[4] = {0x19930520};  // No object, no type.
+    ::RaiseException(0xE06D7363, EXCEPTION_NONCONTINUABLE, 4, parameters);
+    return Reply::Normal;
+}
 Reply DestroyDialog(RecordingHost& host) {
     ::DestroyWindow(DialogOf(host));
     return Reply::Normal;
@@ -102,6 +107,7 @@ const Fault kFaults[] = {
     {"null", Expected::Any, false, [](RecordingHost&) { return Reply::Null; }},
     {"untouched", Expected::Any, false, [](RecordingHost&) { return Reply::Untouched; }},
     {"an exception", Expected::Any, true, Throw},
+    {"an exception of MSVC's", Expected::Any, true, ThrowAsMsvc},
     {"destroys the dialog", Expected::Destroyed, false, DestroyDialog},
     {"destroys the owner", Expected::Destroyed, false, DestroyOwner},
     {"quits", Expected::Destroyed, false, Quit},
@@ -179,7 +185,8 @@ void FailAtEveryCall(const EffectRecords& effect, const Settings& settings) {
         const std::string call = at == kPreviewCall ? kPreviewStart : calls[static_cast<std::size_t>(at)];
         for (const Fault& fault : kFaults) {
             if ((fault.onlySetters && !IsSetter(call)) || turn++ % stride) continue;
-            if (!kExceptionsCrossModules && fault.happen == &Throw) continue;
+            const bool throws = fault.happen == &Throw || fault.happen == &ThrowAsMsvc;
+            if (!kExceptionsCrossModules && throws) continue;
             Try("call " + std::to_string(at) + " (" + call + "): " + fault.name);
             visit.onCall = [&](RecordingHost& host, int number, const std::string&) {
                 if (number != at) return Reply::Normal;
