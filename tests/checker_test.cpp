@@ -1,4 +1,5 @@
-// EffectSettingsCheck.exe tells hosts and libraries that are right from those with a fault, and names it.
+// EffectSettingsCheck.exe tells hosts and libraries that are right from those with a fault, and names it; and the host
+// that it makes of each filter.
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -9,6 +10,7 @@
 
 #include <windows.h>
 
+#include "effect_settings/preview_host.h"
 #include "support/watchdog.h"
 
 namespace {
@@ -75,6 +77,11 @@ const FaultRow kRows[] = {
      {Failed("end: hangs: not closed within 10 seconds; the last call was RefreshPreview()")},
      std::string(kRightHost) + " --seconds 10"},
     // libraries
+    {"calls once more",
+     1,
+     {Failed("calls: call 24 should be nothing more and was StopPreview()")},
+     kNoHost,
+     "no_dialogs\\"},
     {"", 1, {"FAIL  library "}, kNoHost, "no_library\\"},
     {"", 1, {"FAIL  export ", Failed("library: ShowSettingsDialog cannot be called")}, kNoHost, "no_export\\"},
     {"careless",
@@ -115,6 +122,43 @@ TEST(Checker, NamesWhatHostOrLibraryDoesWrongly) {
         }
     }
     ::DeleteFileA(file.c_str());
+}
+
+struct CountingFilter : effect_settings::PreviewFilter<IEffectGammaCorrection> {
+    HRESULT STDMETHODCALLTYPE SetGammaParams(GammaParams) override { return S_OK; }
+    void Draw(HDC, const RECT&, double) override { ++frames; }
+    int frames = 0;
+};
+
+TEST(PreviewHost, DrawsWhileItRunsAndHasWhereTo) {
+    const HWND panel = ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    CountingFilter filter;
+    effect_settings::PreviewHost host(filter);
+    const auto draws = [&filter] {
+        filter.frames = 0;
+        const UINT_PTR end = ::SetTimer(nullptr, 0, 200, nullptr);
+        MSG message{};
+        while (message.message != WM_TIMER || message.wParam != end) {
+            ::DispatchMessageW(&message);
+            ::GetMessageW(&message, nullptr, 0, 0);
+        }
+        ::KillTimer(nullptr, end);
+        return filter.frames > 0;
+    };
+    host.SetPreviewWindow(HandleToLong(panel));
+    host.EnableVideoPreview(-1);
+    EXPECT_FALSE(draws()) << "not begun";
+    host.RefreshPreview();
+    EXPECT_TRUE(draws());
+    host.EnableVideoPreview(0);
+    EXPECT_FALSE(draws()) << "a sound's";
+    host.EnableVideoPreview(-1);
+    host.SetPreviewWindow(0);
+    EXPECT_FALSE(draws()) << "without a window";
+    host.SetPreviewWindow(HandleToLong(panel));
+    host.StopPreview();
+    EXPECT_FALSE(draws()) << "stopped";
+    ::DestroyWindow(panel);
 }
 
 }  // namespace
