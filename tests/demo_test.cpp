@@ -124,9 +124,11 @@ TEST(DemoPlayer, OnlyAcceptedValuesStayInForce) {
     CPlayerWindow window(*player.Get(), states, [&changes] { ++changes; });
     ASSERT_NE(window.Open(), nullptr);
     player->SetPlaying(false);
+    player->Seek(400);
     const std::vector<std::uint32_t> plain = player->Picture().pixels;
     const auto show = [&](const std::function<void(DialogDriver&)>& script) {
         RunDialog([&] { window.ShowSettings(mosaic); }, script);
+        EXPECT_EQ(player->Position(), 400U) << "where it was before the preview";
         return player->Picture().pixels;
     };
     EXPECT_EQ(show([](DialogDriver& dialog) { dialog.Close(); }), plain);
