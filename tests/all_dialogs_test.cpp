@@ -60,7 +60,7 @@ TEST(AllDialogs, EachHasItsTitleSizeTextsPreviewAndMoniker) {
             EXPECT_EQ(dialog.Title(), row.window.title + (hasArea ? L"(720x480)" : L""));
             EXPECT_EQ(dialog.ClientRect().right, row.window.width);
             EXPECT_EQ(dialog.ClientRect().bottom, row.window.height);
-            EXPECT_EQ(PlacesOfTexts(dialog.Window()), "295 10-80" + row.window.texts);
+            EXPECT_EQ(PlacesOfTexts(dialog.Window()), "295 10-80" + row.window.texts) << row.effect.name;
             const HWND panel = session.host.PreviewWindow();
             EXPECT_EQ(panel, dialog.Child(hasArea || isAudio ? 21 : 11));
             EXPECT_EQ(dialog.ClientRect(panel).right, row.window.width - 3);
