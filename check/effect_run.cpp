@@ -88,12 +88,13 @@ void SetDefaults(EffectId effect, void* record) {
 }
 
 std::string FirstDifference(const Calls& expected, const Calls& came) {
-    const auto call = [](const Calls& calls, std::size_t i) { return i < calls.size() ? calls[i] : "nothing more"; };
-    const std::size_t count = (std::max)(expected.size(), came.size());
-    std::size_t i = 0;
-    while (i < count && call(expected, i) == call(came, i)) ++i;
-    if (i == count) return {};
-    return "call " + std::to_string(i + 1) + " should be " + call(expected, i) + " and was " + call(came, i);
+    const auto [wanted, made] = std::mismatch(expected.begin(), expected.end(), came.begin(), came.end());
+    if (wanted == expected.end() && made == came.end()) return {};
+    const auto call = [](const Calls& calls, Calls::const_iterator at) {
+        return at != calls.end() ? *at : "nothing more";
+    };
+    return "call " + std::to_string(wanted - expected.begin() + 1) + " should be " + call(expected, wanted) +
+           " and was " + call(came, made);
 }
 
 }  // namespace

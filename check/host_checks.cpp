@@ -145,7 +145,7 @@ private:
             active.RemoveAt(standing);
         }
         Say(Find("active.FindByMoniker", active, m_moniker) == -1, "active.RemoveAt",
-            "takes the filter out of the chain");
+            "takes out what stood in the chain before");
         const ULONG outside = ReferencesOf(item.Get());
         m_log.Begin("active.Add");
         Say(SUCCEEDED(active.Add(item.Get(), 0)), "active.Add", "takes what all.GetItem gave");

@@ -35,7 +35,8 @@ class CSkinMessageBox : public CSkinDialog {
 public:
     /// @param title   Null for "Message". Both texts are borrowed until DoModal returns; the text may be null.
     /// @param extras  Also offers "Save info" and "Get Help".
-    /// DoModal gives IDYES or IDNO, or IDOK after the answer and IDCANCEL after the close button.
+    /// DoModal gives IDYES or IDNO after these buttons, IDOK after the answer button or Enter, and IDCANCEL after the
+    /// close button or Esc. Enter and Esc end a question, too: only IDYES is a yes.
     CSkinMessageBox(LPCWSTR title, LPCWSTR text, MessageButtons buttons = MessageButtons::Answer, bool extras = false);
 
 protected:

@@ -1,25 +1,20 @@
 // All dialogs: window, moniker, first push, every control, "Set as default", OK and Cancel.
 #include <algorithm>
 #include <climits>
+#include <map>
 #include <random>
+#include <set>
 
 #include <gtest/gtest.h>
 
-#include "area_dialog_rows.h"
+#include <afxwin.h>
+
+#include "all_dialog_rows.h"
 #include "effect_settings/apply_settings.h"
-#include "plain_dialog_rows.h"
+#include "support/accessible_client.h"
 #include "support/dialog_session.h"
 
 namespace {
-
-const std::vector<DialogRow>& AllDialogRows() {
-    static const std::vector<DialogRow> rows = [] {
-        std::vector<DialogRow> all = PlainDialogRows();
-        for (DialogRow& row : AreaDialogRows()) all.push_back(std::move(row));
-        return all;
-    }();
-    return rows;
-}
 
 TEST(AllDialogs, EveryEffectHasARow) {
     const auto hasRow = [](EffectId effect) {
@@ -32,7 +27,33 @@ TEST(AllDialogs, EveryEffectHasARow) {
 #undef EXPECT_ROW
 }
 
-TEST(AllDialogs, EachHasItsTitleSizePreviewAndMoniker) {
+/// In the form of DialogRow::window.texts.
+std::string PlacesOfTexts(HWND dialog) {
+    const Apartment apartment(COINIT_MULTITHREADED);
+    const AccessibleClient client(dialog);
+    std::map<LONG, std::set<std::pair<LONG, LONG>>> lines;
+    std::set<std::wstring> boxes;
+    for (long child = 1; child <= client.Count(); ++child) {
+        const long role = client.Role(child);
+        const std::wstring name = client.Name(child);
+        if (role == ROLE_SYSTEM_CHECKBUTTON) boxes.insert(name);
+        // A line without a text goes by the name of the box before it.
+        const bool isText = role == ROLE_SYSTEM_STATICTEXT && boxes.count(name) == 0;
+        if (!isText && role != ROLE_SYSTEM_CHECKBUTTON && role != ROLE_SYSTEM_RADIOBUTTON) continue;
+        const CRect place = client.Place(child, dialog);
+        EXPECT_EQ(place.Height(), 20) << child;
+        lines[place.top].insert({place.left, place.right});
+    }
+    std::string texts;
+    for (const auto& [top, places] : lines) {
+        texts += (texts.empty() ? "" : "; ") + std::to_string(top);
+        for (const auto& [left, right] : places) texts += " " + std::to_string(left) + "-" + std::to_string(right);
+    }
+    return texts;
+}
+
+TEST(AllDialogs, EachHasItsTitleSizeTextsPreviewAndMoniker) {
+    const Apartment apartment(COINIT_APARTMENTTHREADED);
     for (const DialogRow& row : AllDialogRows()) {
         SCOPED_TRACE(row.effect.name);
         const bool isAudio = row.effect.id == EffectId::AudioChorus;
@@ -42,6 +63,7 @@ TEST(AllDialogs, EachHasItsTitleSizePreviewAndMoniker) {
             EXPECT_EQ(dialog.Title(), row.window.title + (hasArea ? L"(720x480)" : L""));
             EXPECT_EQ(dialog.ClientRect().right, row.window.width);
             EXPECT_EQ(dialog.ClientRect().bottom, row.window.height);
+            EXPECT_EQ(PlacesOfTexts(dialog.Window()), "295 10-80" + row.window.texts) << row.effect.name;
             const HWND panel = session.host.PreviewWindow();
             EXPECT_EQ(panel, dialog.Child(hasArea || isAudio ? 21 : 11));
             EXPECT_EQ(dialog.ClientRect(panel).right, row.window.width - 3);
@@ -115,6 +137,14 @@ TEST(AllDialogs, ApplySettingsSendsWhatAnOpenedDialogSendsFirst) {
     }
 }
 
+/// Of the number that stands beside a slider.
+unsigned long NumberSum(const DialogDriver& dialog, int sliderId) {
+    CRect slider;
+    ::GetWindowRect(dialog.Child(sliderId), slider);
+    ::MapWindowPoints(nullptr, dialog.Window(), reinterpret_cast<POINT*>(&slider), 2);
+    return dialog.PixelSum(CRect(slider.right + 10, slider.top + 1, slider.right + 70, slider.bottom));
+}
+
 TEST(AllDialogs, EveryControlPushesAllValuesOncePerMove) {
     for (const DialogRow& row : AllDialogRows()) {
         SCOPED_TRACE(row.effect.name);
@@ -138,7 +168,7 @@ TEST(AllDialogs, EveryControlPushesAllValuesOncePerMove) {
                 EXPECT_EQ(session.Pushes(), step.dragPush);
                 dialog.Release({2000, 10}, slider);
                 EXPECT_EQ(session.Pushes(), "") << "a release";
-                numbers.push_back(dialog.PixelSum(step.number));
+                numbers.push_back(NumberSum(dialog, step.sliderId));
             }
             dialog.Key(VK_RETURN);
         });
@@ -150,7 +180,7 @@ TEST(AllDialogs, EveryControlPushesAllValuesOncePerMove) {
             auto number = numbers.begin();
             for (const Step& step : row.steps) {
                 if (!step.sliderId) continue;
-                EXPECT_EQ(dialog.PixelSum(step.number), *number++) << step.sliderId;
+                EXPECT_EQ(NumberSum(dialog, step.sliderId), *number++) << step.sliderId;
             }
         });
     }
@@ -167,19 +197,19 @@ TEST(AllDialogs, ADragRenewsTheNumberEvenWhereTheSliderStays) {
         };
         Session session(row.effect.id, row.openings[2].record);
         session.Run([&](DialogDriver& dialog) {
-            lookAtNumbers(dialog, [&](const Step& step, HWND) { highest.push_back(dialog.PixelSum(step.number)); });
+            lookAtNumbers(dialog, [&](const Step& step, HWND) { highest.push_back(NumberSum(dialog, step.sliderId)); });
         });
         Session above(row.effect.id, row.openings[3].record);
         above.Run([&](DialogDriver& dialog) {
             auto number = highest.begin();
             lookAtNumbers(dialog, [&](const Step& step, HWND slider) {
                 SCOPED_TRACE(testing::Message() << row.effect.name << " " << step.sliderId);
-                EXPECT_NE(dialog.PixelSum(step.number), *number) << "the record's number is shown at first";
+                EXPECT_NE(NumberSum(dialog, step.sliderId), *number) << "the record's number is shown at first";
                 const LONG right = dialog.ClientRect(slider).right;
                 dialog.Press({right - 3, 10}, slider);
                 dialog.Move({right + 50, 10}, slider, MK_LBUTTON);
                 dialog.Release({right + 50, 10}, slider);
-                EXPECT_EQ(dialog.PixelSum(step.number), *number++);
+                EXPECT_EQ(NumberSum(dialog, step.sliderId), *number++);
             });
         });
     }

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include "all_dialog_rows.h"
 #include "demo_host/files.h"
 #include "demo_host/player_window.h"
 #include "demo_host/settings_file.h"
@@ -23,19 +24,30 @@ namespace {
 
 // --- the settings file ---
 
-TEST(DemoSettings, EveryFieldOfEveryRecordComesBack) {
+TEST(DemoSettings, EveryFieldTakesWhatItsDialogSavesAndComesBack) {
     std::vector<EffectState> states = DefaultStates();
-    std::set<std::string> lines;
-    for (std::size_t effect = 0; effect < states.size(); ++effect) {
-        const std::vector<Field>& fields = AllEffects()[effect].fields;
-        ASSERT_EQ(fields.size(), states[effect].record.size()) << AllEffects()[effect].name;
-        states[effect].checked = effect % 2 != 0;
-        for (std::size_t field = 0; field < fields.size(); ++field) {
-            EXPECT_GE(states[effect].record[field], fields[field].range.min) << fields[field].name;
-            EXPECT_LE(states[effect].record[field], fields[field].range.max) << fields[field].name;
-            states[effect].record[field] = field % 2 != 0 ? fields[field].range.min : fields[field].range.max;
+    int unlimited = 0;
+    for (const DialogRow& row : AllDialogRows()) {
+        const Effect& effect = EffectOf(row.effect.id);
+        EffectState& state = StateOf(states, effect);
+        const Record& lowest = row.openings[1].record;
+        const Record& highest = row.openings[2].record;
+        ASSERT_EQ(effect.fields.size(), lowest.size()) << effect.name;
+        state.checked = row.effect.hasArea;
+        for (std::size_t index = 0; index < lowest.size(); ++index) {
+            const Field& field = effect.fields[index];
+            SCOPED_TRACE(testing::Message() << effect.name << "." << field.name);
+            state.record[index] = index % 2 != 0 ? field.range.min : field.range.max;
+            if (field.range.min == INT_MIN && field.range.max == INT_MAX) {
+                ++unlimited;
+                continue;
+            }
+            EXPECT_EQ(field.range.min, lowest[index]);
+            EXPECT_EQ(field.range.max, highest[index]);
         }
     }
+    // The edges of the areas, the offsets and the lines, which the video limits; the blocks; the choices of Aging.
+    EXPECT_EQ(unlimited, 4 * 11 + 3 + 4 + 3);
     std::vector<EffectState> read;
     ASSERT_EQ(ParseSettings(FormatSettings(states), read), "");
     for (std::size_t effect = 0; effect < states.size(); ++effect) {
@@ -52,6 +64,7 @@ TEST(DemoSettings, BadContentIsNamedByLineAndField) {
         {"", ""},
         {"\xEF\xBB\xBF# all kinds of blanks\r\n\r\n  wave.threshold=7  \n", ""},
         {"wave.threshold = 101\n", "line 1: wave.threshold: '101' is not a whole number from 1 to 100"},
+        {"wave.threshold = 0\n", "line 1: wave.threshold: '0' is not a whole number from 1 to 100"},
         {"\n\nwave.threshold = x", "line 3: wave.threshold: 'x' is not a whole number from 1 to 100"},
         {"wave.threshold = 5 5", "line 1: wave.threshold: '5 5' is not a whole number from 1 to 100"},
         {"wave.threshold =", "line 1: wave.threshold: '' is not a whole number from 1 to 100"},
@@ -83,9 +96,11 @@ TEST(DemoPlayer, OnlyAcceptedValuesStayInForce) {
     CPlayerWindow window(*player.Get(), states, [&changes] { ++changes; });
     ASSERT_NE(window.Open(), nullptr);
     player->SetPlaying(false);
+    player->Seek(400);
     const std::vector<std::uint32_t> plain = player->Picture().pixels;
     const auto show = [&](const std::function<void(DialogDriver&)>& script) {
         RunDialog([&] { window.ShowSettings(mosaic); }, script);
+        EXPECT_EQ(player->Position(), 400U) << "where it was before the preview";
         return player->Picture().pixels;
     };
     EXPECT_EQ(show([](DialogDriver& dialog) { dialog.Close(); }), plain);

@@ -22,7 +22,6 @@ struct Step {
     POINT at;
     std::string push;
     int sliderId = 0;
-    RECT number{};  ///< Where the slider's number stands.
     std::string dragPush{};
 };
 
@@ -37,9 +36,8 @@ struct StepChange {
 inline StepChange Click(int x, int y, std::vector<std::pair<std::size_t, std::int32_t>> numbers = {}) {
     return {{{x, y}, ""}, std::move(numbers)};
 }
-inline StepChange Slide(int id, int x, const RECT& number, std::size_t index, std::int32_t clicked,
-                        std::int32_t dragged) {
-    return {{{x, 10}, "", id, number}, {{index, clicked}}, dragged};
+inline StepChange Slide(int id, int x, std::size_t index, std::int32_t clicked, std::int32_t dragged) {
+    return {{{x, 10}, "", id}, {{index, clicked}}, dragged};
 }
 
 /// Writes a push down as the trace has it.
@@ -151,6 +149,8 @@ struct DialogRow {
         int width;
         int height;
         const char* filter;  ///< The first group of the filter's class id.
+        /// Where labels, numbers and captions stand below "Enable": "; top left-right left-right" for each line.
+        std::string texts{};
     } window;
     struct {
         bool startEnabled;  ///< Even if the effect is off.

@@ -350,10 +350,11 @@ TEST(MessageBox, AnswersByItsButtons) {
         MessageButtons buttons;
         POINT at;
         INT_PTR result;
-    } rows[] = {{"Yes", MessageButtons::YesNo, kLeft, IDYES},
-                {"No", MessageButtons::YesNo, kRight, IDNO},
-                {"answer", MessageButtons::Answer, kRight, IDOK},
-                {"closed", MessageButtons::Answer, kClose, IDCANCEL}};
+        WPARAM key = 0;  ///< Instead of a click.
+    } rows[] = {
+        {"Yes", MessageButtons::YesNo, kLeft, IDYES},          {"No", MessageButtons::YesNo, kRight, IDNO},
+        {"Enter", MessageButtons::YesNo, {}, IDOK, VK_RETURN}, {"Esc", MessageButtons::YesNo, {}, IDCANCEL, VK_ESCAPE},
+        {"answer", MessageButtons::Answer, kRight, IDOK},      {"closed", MessageButtons::Answer, kClose, IDCANCEL}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         INT_PTR result = -99;
@@ -374,6 +375,7 @@ TEST(MessageBox, AnswersByItsButtons) {
                           driver.Click(kClose);
                           EXPECT_TRUE(driver.IsOpen()) << "a question has no close button";
                       }
+                      if (row.key) return driver.Key(row.key);
                       driver.Click(row.at);
                   });
         EXPECT_EQ(result, row.result);

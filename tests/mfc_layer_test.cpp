@@ -304,7 +304,11 @@ TEST(Dialog, TheOwnersOwnerIsDisabledToo) {
     COwnerWnd popup(top.m_hWnd);
     CEdit child;
     ASSERT_TRUE(child.Create(WS_CHILD, CRect(0, 0, 9, 9), &popup, 1));
-    CScriptDialog dialog(&child);  // A child window stands for the top-level window that it is in.
+    CScriptDialog dialog(&child);          // A child window stands for the top-level window that it is in.
+    dialog.atInit = [&](CScriptDialog&) {  // As a message box does when it goes.
+        top.EnableWindow(TRUE);
+        popup.EnableWindow(TRUE);
+    };
     dialog.step = [&](CScriptDialog& self) {
         EXPECT_EQ(::GetWindow(self, GW_OWNER), popup.m_hWnd);
         EXPECT_FALSE(top.IsWindowEnabled());

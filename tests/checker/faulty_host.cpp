@@ -38,21 +38,32 @@ public:
     ULONG STDMETHODCALLTYPE Release() override { return --m_references; }
 
     HRESULT STDMETHODCALLTYPE GetItem(LONG index, IUnknown** item) override {
-        const HRESULT result = list->GetItem(index, item);
+        const HRESULT result = list->GetItem(Has("item for any index") ? 0 : index, item);
         if (Has("item not counted") && *item) (*item)->Release();
-        return result;
+        if (!Has("no item") || !*item) return result;
+        (*item)->Release();
+        *item = nullptr;
+        return S_OK;
     }
     HRESULT STDMETHODCALLTYPE FindByMoniker(BSTR moniker, LONG* index) override {
         if (Has("hang")) Sleep(INFINITE);
         const HRESULT result = list->FindByMoniker(moniker, index);
         if (Has("finds everything") && *index < 0) *index = 0;
+        if (Has("finds nothing")) *index = -1;
         return result;
     }
     HRESULT STDMETHODCALLTYPE RemoveAt(LONG index) override {
-        return Has("keeps what is removed") ? S_OK : list->RemoveAt(index);
+        IUnknown* item = nullptr;
+        if (Has("keeps what is removed")) return S_OK;
+        if (Has("keeps a reference") || Has("chain not counted")) list->GetItem(index, &item);
+        const HRESULT result = list->RemoveAt(index);
+        return Has("refuses what it removes") ? E_FAIL : result;
     }
     HRESULT STDMETHODCALLTYPE Add(IUnknown* item, LONG option) override {
-        return Has("adds nothing") ? S_OK : list->Add(item, option);
+        if (Has("adds nothing")) return S_OK;
+        const HRESULT result = list->Add(item, option);
+        if (Has("chain not counted")) item->Release();
+        return Has("refuses what it adds") ? E_FAIL : result;
     }
 
 private:
@@ -63,6 +74,13 @@ class Host final : public PreviewHost {
 public:
     using PreviewHost::PreviewHost;
 
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        *object = nullptr;
+        if (Has("knows no interface")) return E_NOINTERFACE;
+        const HRESULT result = PreviewHost::QueryInterface(iid, object);
+        if (Has("query not counted")) Release();
+        return result;
+    }
     HRESULT STDMETHODCALLTYPE RefreshPreview() override {
         if (Has("crash")) ::RaiseException(EXCEPTION_ACCESS_VIOLATION, 0, 0, nullptr);
         if (Has("hang in a dialog")) Sleep(INFINITE);
@@ -76,10 +94,15 @@ public:
         if (!m_active.list) PreviewHost::GetActiveVideoProcessors(&m_active.list);
         return Give(m_active, list);
     }
+    HRESULT STDMETHODCALLTYPE GetProcessorObject(LONG kind, IUnknown** object) override {
+        *object = nullptr;
+        return Has("no object") ? S_OK : PreviewHost::GetProcessorObject(kind, object);
+    }
 
 private:
     static HRESULT Give(List& from, IProcessorList** list) {
-        *list = &from;
+        *list = Has("no list") ? nullptr : &from;
+        if (!*list) return S_OK;
         if (!Has("list not counted")) from.AddRef();
         return S_OK;
     }
@@ -93,6 +116,7 @@ private:
 extern "C" __declspec(dllexport) IMediaHost* WINAPI CreateEffectSettingsHost() {
     static Gamma filter;
     static Host host(filter);
+    if (Has("no host")) return nullptr;
     host.AddRef();
     return &host;
 }

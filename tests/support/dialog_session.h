@@ -21,12 +21,25 @@ inline std::string PushesIn(const Lines& calls) {
     return all;
 }
 
+/// Of an effect's record.
+inline std::size_t FieldCount(EffectId effect) {
+    switch (effect) {
+#define FIELD_COUNT(name, number) \
+    case EffectId::name:          \
+        return sizeof(name##Settings) / sizeof(std::int32_t);
+        EFFECT_SETTINGS_EFFECTS(FIELD_COUNT)
+#undef FIELD_COUNT
+    }
+    return 0;
+}
+
 struct Session {
     Session(EffectId effect, std::vector<std::int32_t> initial, SIZE videoSize = {720, 480},
             SIZE frameSize = {360, 240}, HostOptions options = {})
         : id(effect), record(std::move(initial)), video(videoSize), frame(frameSize), host(effect, options) {}
 
     void Run(const std::function<void(DialogDriver&)>& script) {
+        ASSERT_GE(record.size(), FieldCount(id)) << "the record is too short";
         IMediaHost* pointer = &host;
         RunDialog(
             [&] { result = ShowSettingsDialog(&pointer, id, video.cx, video.cy, frame.cx, frame.cy, record.data()); },

@@ -1,0 +1,14 @@
+// The rows of all dialogs.
+#pragma once
+
+#include "area_dialog_rows.h"
+#include "plain_dialog_rows.h"
+
+inline const std::vector<DialogRow>& AllDialogRows() {
+    static const std::vector<DialogRow> rows = [] {
+        std::vector<DialogRow> all = PlainDialogRows();
+        for (DialogRow& row : AreaDialogRows()) all.push_back(std::move(row));
+        return all;
+    }();
+    return rows;
+}
