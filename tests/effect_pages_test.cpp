@@ -1,6 +1,7 @@
 // docs/effects.json and docs/effects.md, made from the dialogs' own controls and the records' header.
 // With EFFECT_SETTINGS_WRITE_PAGES in the environment they are written; without, the committed ones have to be the same.
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -19,7 +20,6 @@
 #include <gtest/gtest.h>
 
 #include "effect_settings/effect_filters.h"
-#include "effects/parts/area_controls.h"
 #include "effects/parts/effect_dlg.h"
 #include "support/recording_host.h"
 
@@ -37,6 +37,11 @@ struct Choice {
     Control control;
 };
 
+struct Setter {
+    int slot = 0;
+    std::string name;
+};
+
 struct FieldRow {
     std::string name;
     std::size_t offset = 0;
@@ -49,6 +54,8 @@ struct FieldRow {
     std::vector<Choice> choices;
     bool choicesAddUp = false;
     bool isColor = false;
+    Setter setter;          ///< That a push hands the field to; without a name there is none.
+    std::string parameter;  ///< Of the setter, or the member of its structure.
 };
 
 struct EffectPage {
@@ -59,6 +66,7 @@ struct EffectPage {
     std::string name;
     std::vector<FieldRow> fields;
     std::vector<Control> controls;
+    std::vector<Setter> push;
 };
 
 std::string Utf8(const wchar_t* text) {
@@ -165,7 +173,7 @@ std::string LabelOf(const CRecordDlg& dialog, const CSkinControl& control, const
 std::map<const CSkinControl*, Control> ReadControls(const CRecordDlg& dialog, std::vector<Control>& inOrder) {
     std::map<const CSkinControl*, Control> controls;
     std::string label;
-    for (const auto& [control, help] : Reader::ControlsOf(dialog)) {
+    for (const auto& [control, help, place] : Reader::ControlsOf(dialog)) {
         if (const auto* const text = AsLabel(control)) {
             label = Utf8(text->Text());
             continue;
@@ -237,19 +245,106 @@ void ReadDialog(CRecordDlg& dialog, const std::int32_t* record, EffectPage& page
         }
         field.isColor = HasRole(binding.control, {ROLE_SYSTEM_GRAPHIC});
     }
-    const std::map<std::string, UINT> area = {
-        {"areaEnabled", CAreaControls::kSwitchId},
-        {"left", CAreaControls::kEdgeIds[0]},
-        {"top", CAreaControls::kEdgeIds[1]},
-        {"right", CAreaControls::kEdgeIds[2]},
-        {"bottom", CAreaControls::kEdgeIds[3]}};
+}
+
+/// What a push sent: the names and values of the calls as the demo's filter notes them, and their slots.
+struct Push {
+    std::vector<Setter> setters;
+    std::vector<std::vector<std::string>> values;
+};
+
+/// The place of a setter in the interface's function table: calls it on an object whose functions tell theirs.
+template <typename Interface, typename Parameter>
+class SlotOf {
+public:
+    explicit SlotOf(HRESULT (STDMETHODCALLTYPE Interface::*setter)(Parameter)) {
+        const auto* const* object = kTable.data();
+        m_slot = (reinterpret_cast<Interface*>(&object)->*setter)(Parameter{});
+    }
+    operator int() const { return m_slot; }
+
+private:
+    template <int Slot>
+    static HRESULT STDMETHODCALLTYPE Tell(void*, Parameter) {
+        return Slot;
+    }
+    template <int... Slots>
+    static std::array<const void*, sizeof...(Slots)> Table(std::integer_sequence<int, Slots...>) {
+        return {reinterpret_cast<const void*>(&Tell<Slots>)...};
+    }
+    inline static const auto kTable = Table(std::make_integer_sequence<int, 64>());
+
+    HRESULT m_slot;
+};
+
+template <typename Settings>
+Push PushOf(EffectId effect, const Settings& settings) {
+    using namespace effect_settings;
+    using Properties = typename FilterOf<Settings>::Properties;
+    Push push;
+    const auto filter = MakeFilter(effect, [&push](const std::string& line) {
+        const std::size_t open = line.find('(');
+        push.setters.back().name = line.substr(7, open - 7);
+        std::istringstream values(line.substr(open + 1, line.size() - open - 2));
+        for (std::string value; std::getline(values, value, ',');) push.values.back().push_back(value);
+    });
+    Properties* properties = nullptr;
+    filter->QueryInterface(FilterOf<Settings>::PropertiesId(), reinterpret_cast<void**>(&properties));
+    const auto send = [&](auto setter, const auto& value) {
+        push.setters.push_back({SlotOf(setter), {}});
+        push.values.emplace_back();
+        (properties->*setter)(value);
+    };
+    effect_settings::Push(send, settings, {{640, 480}, {640, 480}});
+    properties->Release();
+    return push;
+}
+
+/// The names of what a setter takes: its parameter, or the members of its structure.
+std::vector<std::string> ParametersOf(const std::string& header, const std::string& effect, const std::string& setter) {
+    const std::regex declaration("STDMETHODCALLTYPE " + setter + R"(\((\w+) (\w+)\) = 0)");
+    std::smatch found;
+    const std::size_t own = header.find("struct IEffect" + effect + " ");
+    const std::string body = header.substr(own, header.find("\n};", own) - own);
+    if (!std::regex_search(body, found, declaration) && !std::regex_search(header, found, declaration)) return {};
+    if (found[1] == "LONG" || found[1] == "VARIANT_BOOL") return {found[2]};
+    const std::size_t begin = header.find("struct " + found[1].str() + " {");
+    const std::string members = header.substr(begin, header.find("\n};", begin) - begin);
+    const std::regex member(R"(int32_t (\w+))");
+    std::vector<std::string> names;
+    for (std::sregex_iterator next(members.begin(), members.end(), member), end; next != end; ++next) {
+        names.push_back((*next)[1]);
+    }
+    return names;
+}
+
+/// Changes each field and looks which of the values that are sent follows it.
+template <typename Settings>
+void ReadPush(EffectPage& page, const std::string& header) {
+    Settings usual;
+    if constexpr (requires { usual.areaEnabled; }) {
+        usual.left = 10;
+        usual.top = 20;
+        usual.right = 300;
+        usual.bottom = 200;
+    }
+    const Push before = PushOf(page.id, usual);
+    page.push = before.setters;
     for (FieldRow& field : page.fields) {
-        const auto id = area.find(field.name);
-        if (id == area.end()) continue;
-        field.hasRange = id->second == CAreaControls::kSwitchId;
-        field.max = 1;
-        for (const Control& control : page.controls) {
-            if (control.id == id->second) field.control = control;
+        for (const std::int32_t change : {1, -1, 90}) {
+            Settings changed = usual;
+            reinterpret_cast<std::int32_t*>(&changed)[field.offset / sizeof(std::int32_t)] += change;
+            const Push after = PushOf(page.id, changed);
+            for (std::size_t call = 0; call < before.setters.size() && field.setter.name.empty(); ++call) {
+                // Off, Video Rotation sends the same values in another order.
+                if (after.setters[call].name != before.setters[call].name) continue;
+                const auto [old, now] =
+                    std::mismatch(before.values[call].begin(), before.values[call].end(), after.values[call].begin());
+                if (old == before.values[call].end()) continue;
+                field.setter = before.setters[call];
+                field.parameter = ParametersOf(header, page.name, field.setter.name)
+                                      .at(static_cast<std::size_t>(old - before.values[call].begin()));
+            }
         }
     }
 }
@@ -265,6 +360,7 @@ EffectPage PageOf(const std::string& name, const std::string& header) {
         Traits::kPropertyInterface,
         name,
         FieldsInHeader(header, name + "Settings"),
+        {},
         {}};
     EXPECT_EQ(page.fields.size() * sizeof(std::int32_t), sizeof(Settings)) << name;
     Settings record;
@@ -277,6 +373,7 @@ EffectPage PageOf(const std::string& name, const std::string& header) {
         looked = true;
     });
     EXPECT_TRUE(looked) << name;
+    ReadPush<Settings>(page, ReadFile("include/effect_settings/effect_filters.h"));
     return page;
 }
 
@@ -324,9 +421,14 @@ std::string Json(const std::vector<EffectPage>& pages) {
             << ",\n      \"height\": " << info.height << ",\n      \"description\": " << Quoted(Utf8(info.description))
             << ",\n      \"picture\": " << Quoted(PictureOf(page))
             << ",\n      \"filter\": {\"class\": " << Quoted(TextOf(page.filterClass))
-            << ", \"moniker\": " << Quoted(Utf8(MonikerOf(page.filterClass, info.chain))) << ", \"interface\": "
-            << Quoted("IEffect" + page.name) << ", \"interfaceId\": " << Quoted(TextOf(page.propertyInterface))
-            << "},\n      \"record\": {\n        \"type\": " << Quoted(page.name + "Settings")
+            << ", \"moniker\": " << Quoted(Utf8(MonikerOf(page.filterClass, info.chain)))
+            << ", \"interface\": " << Quoted("IEffect" + page.name)
+            << ", \"interfaceId\": " << Quoted(TextOf(page.propertyInterface)) << ",\n                 \"push\": [";
+        for (const Setter& setter : page.push) {
+            out << (&setter == &page.push.front() ? "" : ", ") << "{\"slot\": " << setter.slot
+                << ", \"name\": " << Quoted(setter.name) << '}';
+        }
+        out << "]},\n      \"record\": {\n        \"type\": " << Quoted(page.name + "Settings")
             << ",\n        \"size\": " << 4 * page.fields.size() << ",\n        \"fields\": [";
         const char* separator = "\n";
         for (const FieldRow& field : page.fields) {
@@ -335,6 +437,10 @@ std::string Json(const std::vector<EffectPage>& pages) {
             if (field.hasRange) out << ", \"min\": " << field.min << ", \"max\": " << field.max;
             out << ", \"meaning\": " << Quoted(field.meaning);
             if (field.control.id) out << ", \"control\": " << field.control.id;
+            if (!field.setter.name.empty()) {
+                out << ", \"setter\": {\"slot\": " << field.setter.slot << ", \"name\": " << Quoted(field.setter.name)
+                    << ", \"parameter\": " << Quoted(field.parameter) << '}';
+            }
             if (!field.choices.empty()) out << (field.choicesAddUp ? ", \"bits\": [" : ", \"choices\": [");
             for (const Choice& choice : field.choices) {
                 out << (&choice == &field.choices.front() ? "" : ", ") << "{\"value\": " << choice.value
@@ -371,7 +477,10 @@ std::string Markdown(const std::vector<EffectPage>& pages) {
            "programs, with the help text of every control. All fields are 32-bit integers. Ranges are those that the "
            "dialog "
            "keeps to, here for a video of 640 x 480 pixels; what the fields mean is said in full in "
-           "[effect_settings.h](../include/effect_settings/effect_settings.h).\n";
+           "[effect_settings.h](../include/effect_settings/effect_settings.h). A setter is that of the filter which "
+           "gets "
+           "the field, with its slot and its parameter; pushes are those of a usable area and of an effect that is on, "
+           "and [apply_settings.h](../include/effect_settings/apply_settings.h) has them as code.\n";
     for (const EffectPage& page : pages) {
         const EffectInfo& info = page.info;
         out << "\n## " << static_cast<int>(page.id) << ". " << Words(page.name, ' ') << "\n\n`" << page.name
@@ -380,7 +489,8 @@ std::string Markdown(const std::vector<EffectPage>& pages) {
             << ")). Its filter, in the " << (info.chain == ChainKind::Audio ? "audio" : "video") << " chain, is `"
             << TextOf(page.filterClass) << "` and answers for `IEffect" << page.name << "`, `"
             << TextOf(page.propertyInterface)
-            << "`.\n\n| Field | Offset | Default | Range | Meaning | Control |\n|---|---|---|---|---|---|\n";
+            << "`.\n\n| Field | Offset | Default | Range | Meaning | Control | Setter "
+               "|\n|---|---|---|---|---|---|---|\n";
         for (const FieldRow& field : page.fields) {
             out << "| " << field.name << " | " << field.offset << " | " << DefaultOf(field) << " | ";
             if (field.hasRange) out << field.min << " to " << field.max;
@@ -389,8 +499,16 @@ std::string Markdown(const std::vector<EffectPage>& pages) {
             for (const Choice& choice : field.choices) {
                 out << (&choice == &field.choices.front() ? "" : ", ") << choice.value << ": " << choice.control.label;
             }
+            out << " | ";
+            if (!field.setter.name.empty()) {
+                out << '`' << field.setter.name << "` (" << field.setter.slot << "), " << field.parameter;
+            }
             out << " |\n";
         }
+        out << "\nOne push: ";
+        for (const Setter& setter : page.push)
+            out << (&setter == &page.push.front() ? "`" : ", `") << setter.name << '`';
+        out << ".\n";
     }
     return out.str();
 }
