@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "skin/apartment.h"
 #include "skin/layered_window.h"
 #include "skin/skin_folder.h"
 
@@ -66,6 +67,11 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
 END_MESSAGE_MAP()
 
 CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header, &m_owner); }
+
+INT_PTR CSkinDialog::DoModal() {
+    const CApartment apartment;  // For as long as screen readers may hold objects of the dialog.
+    return CDialog::DoModal();
+}
 
 void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help) {
     m_controls.push_back({&control, help});

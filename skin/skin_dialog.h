@@ -42,6 +42,7 @@ public:
     void ControlChanged(CSkinControl& control, DWORD event) override;
     LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override;
 
+    INT_PTR DoModal() override;
     BOOL PreTranslateMessage(MSG* message) override;
     /// Draws all anew, after the contrast has changed.
     void ShowContrast();
