@@ -153,7 +153,10 @@ void CFocusRing::OnPress(const MSG& message) {
     CPoint point(message.lParam);
     ::MapWindowPoints(message.hwnd, m_dialog.GetSafeHwnd(), &point, 1);
     for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
-        if (entry.control->TakesFocus() && entry.control->Bounds().PtInRect(point)) Focus(entry.control);
+        if (!entry.control->TakesFocus() || !entry.control->Bounds().PtInRect(point)) continue;
+        if (entry.control == m_focused) continue;
+        Focus(entry.control);
+        AnnounceFocus();
     }
 }
 
@@ -213,7 +216,8 @@ void CFocusRing::Choose(int direction) {
 void CFocusRing::MoveTo(CSkinControl& control) {
     ShowMark();
     Focus(&control);
-    TakeSystemFocus();
+    // Where the system's focus comes along, the dialog announces the control after its own window.
+    if (!TakeSystemFocus()) AnnounceFocus();
     if (const HWND window = control.FocusWindow()) {
         if (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) ::SendMessageW(window, EM_SETSEL, 0, -1);
     }
@@ -226,12 +230,17 @@ void CFocusRing::Focus(CSkinControl* control) {
     m_focused = control;
     m_wheel = 0;
     InvalidateMark();
-    if (control && !control->FocusWindow()) m_dialog.ControlChanged(*control, EVENT_OBJECT_FOCUS);
 }
 
-void CFocusRing::TakeSystemFocus() {
+bool CFocusRing::TakeSystemFocus() {
     const HWND window = m_focused && m_focused->FocusWindow() ? m_focused->FocusWindow() : m_dialog.GetSafeHwnd();
-    if (::GetFocus() != window) ::SetFocus(window);
+    if (::GetFocus() == window) return false;
+    ::SetFocus(window);
+    return true;
+}
+
+void CFocusRing::AnnounceFocus() const {
+    if (m_focused && !m_focused->FocusWindow()) m_dialog.ControlChanged(*m_focused, EVENT_OBJECT_FOCUS);
 }
 
 void CFocusRing::Adopt(HWND window) {
@@ -243,6 +252,9 @@ void CFocusRing::Adopt(HWND window) {
 bool CFocusRing::KeepsSystemFocus() const { return m_markShown && m_focused && !m_focused->FocusWindow(); }
 
 void CFocusRing::Repair() {
+    // A disabled window loses the system's focus to nobody, and the dialog would be deaf.
+    const HWND focus = ::GetFocus();
+    const bool isDeaf = (!focus || !::IsWindowEnabled(focus)) && ::GetActiveWindow() == m_dialog.GetSafeHwnd();
     if (m_focused && !m_focused->TakesFocus()) {
         const Stops stops = InScreenOrder();
         const auto current = std::find(stops.begin(), stops.end(), m_focused);
@@ -250,10 +262,9 @@ void CFocusRing::Repair() {
         auto next = std::find_if(current, stops.end(), canHaveIt);
         if (next == stops.end()) next = std::find_if(stops.begin(), stops.end(), canHaveIt);
         Focus(next == stops.end() ? nullptr : *next);
+        if (!isDeaf) AnnounceFocus();
     }
-    // A disabled window loses the system's focus to nobody, and the dialog would be deaf.
-    const HWND focus = ::GetFocus();
-    if ((!focus || !::IsWindowEnabled(focus)) && ::GetActiveWindow() == m_dialog.GetSafeHwnd()) TakeSystemFocus();
+    if (isDeaf) TakeSystemFocus();
 }
 
 void CFocusRing::TurnWheel(int delta, CPoint point) {

@@ -24,6 +24,8 @@ public:
     void Adopt(HWND window);
     /// Whether the dialog's window keeps the system's focus when it comes there.
     bool KeepsSystemFocus() const;
+    /// Tells screen readers which drawn control has the focus. The system tells of windows.
+    void AnnounceFocus() const;
     /// Moves the focus on from a control that can't have it any more.
     void Repair();
     /// A notch of the wheel away from the user (1) or toward (-1), at a point of the dialog.
@@ -50,7 +52,7 @@ private:
     void Advance(int direction);
     void Choose(int direction);
     void Focus(CSkinControl* control);
-    void TakeSystemFocus();
+    bool TakeSystemFocus();
     void InvalidateMark() const;
 
     CSkinDialog& m_dialog;

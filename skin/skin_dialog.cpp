@@ -357,6 +357,7 @@ BOOL CSkinDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
 void CSkinDialog::OnSetFocus(CWnd* previous) {
     // The system would hand it on to the first window that takes it.
     if (!m_focus.KeepsSystemFocus()) CDialog::OnSetFocus(previous);
+    if (::GetFocus() == m_hWnd) m_focus.AnnounceFocus();
 }
 
 BOOL CSkinDialog::OnMouseWheel(UINT /*flags*/, short delta, CPoint point) {
