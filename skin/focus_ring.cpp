@@ -49,6 +49,18 @@ void SortBy(Iterator begin, Iterator end, Key key) {
 
 }  // namespace
 
+void SortAsOnScreen(std::vector<CSkinControl*>& controls) {
+    const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
+    const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
+    SortBy(controls.begin(), controls.end(), top);
+    for (auto row = controls.begin(); row != controls.end();) {
+        const auto next =
+            std::find_if(row, controls.end(), [&](auto* control) { return top(control) >= top(*row) + kSameRow; });
+        SortBy(row, next, left);
+        row = next;
+    }
+}
+
 bool CFocusRing::Translate(const MSG& message) {
     const HWND window = m_dialog.GetSafeHwnd();
     if (message.hwnd != window && !::IsChild(window, message.hwnd)) {
@@ -165,14 +177,7 @@ CFocusRing::Stops CFocusRing::InScreenOrder() const {
     for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
         if (entry.control->TakesFocus() || entry.control == m_focused) stops.push_back(entry.control);
     }
-    const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
-    const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
-    SortBy(stops.begin(), stops.end(), top);
-    for (auto row = stops.begin(); row != stops.end();) {
-        const auto next = std::find_if(row, stops.end(), [&](auto* stop) { return top(stop) >= top(*row) + kSameRow; });
-        SortBy(row, next, left);
-        row = next;
-    }
+    SortAsOnScreen(stops);
     return stops;
 }
 
@@ -241,6 +246,10 @@ bool CFocusRing::TakeSystemFocus() {
 
 void CFocusRing::AnnounceFocus() const {
     if (m_focused && !m_focused->FocusWindow()) m_dialog.ControlChanged(*m_focused, EVENT_OBJECT_FOCUS);
+}
+
+const CSkinControl* CFocusRing::FocusedButton() const {
+    return m_markShown && m_focused && m_focused->Facts().role == ROLE_SYSTEM_PUSHBUTTON ? m_focused : nullptr;
 }
 
 void CFocusRing::Adopt(HWND window) {
