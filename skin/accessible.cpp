@@ -1,5 +1,7 @@
 #include "skin/accessible.h"
 
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "skin/skin_dialog.h"
@@ -24,6 +26,11 @@ LONG DistanceOfLabel(const CRect& label, const CRect& control) {
     return above ? (std::max)(control.top - label.bottom, 0L) : -1;
 }
 
+std::size_t IndexOf(const std::vector<CSkinDialog::Entry>& entries, const CSkinControl& control) {
+    const auto isSought = [&](const CSkinDialog::Entry& entry) { return entry.control == &control; };
+    return static_cast<std::size_t>(std::find_if(entries.begin(), entries.end(), isSought) - entries.begin());
+}
+
 /// The label that was added just before a control and stands by it, or else the nearest.
 CString LabelOf(const std::vector<CSkinDialog::Entry>& entries, std::size_t index) {
     constexpr LONG kFarthest = 200;
@@ -46,11 +53,14 @@ CString LabelOf(const std::vector<CSkinDialog::Entry>& entries, std::size_t inde
     return nearest != index ? entries[nearest].control->Facts().name : CString();
 }
 
-CString NameOf(const std::vector<CSkinDialog::Entry>& entries, std::size_t index) {
-    CString name = entries[index].control->Facts().name;
-    if (name.IsEmpty()) name = LabelOf(entries, index);
-    if (name.IsEmpty() && entries[index].help) name = entries[index].help;
-    return name;
+CString HelpOf(const CSkinDialog& dialog, const CSkinControl& control) {
+    return CString(dialog.Controls()[IndexOf(dialog.Controls(), control)].help);
+}
+
+/// A heading that is but a line says nothing.
+bool IsForReaders(const CSkinControl& control) {
+    const ControlFacts facts = control.Facts();
+    return facts.role != ROLE_SYSTEM_STATICTEXT || !facts.name.IsEmpty();
 }
 
 HRESULT GiveText(const CString& text, BSTR* result) {
@@ -65,6 +75,14 @@ HRESULT GiveNumber(LONG number, VARIANT* result) {
     return S_OK;
 }
 
+/// What an object is asked for about itself.
+VARIANT Self() {
+    VARIANT self{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    return self;
+}
+
 }  // namespace
 
 /// Shared by the dialog and its objects; the last of them deletes it.
@@ -76,16 +94,24 @@ struct CAccessibility::Link {
         return static_cast<ULONG>(left);
     }
 
+    /// From 1; 0 for a control that is not there for readers.
+    LONG NumberOf(const CSkinControl& control) const {
+        const auto child = std::find(children.begin(), children.end(), &control);
+        return child != children.end() ? static_cast<LONG>(child - children.begin()) + 1 : 0;
+    }
+
     LONG references = 0;
     CSkinDialog* dialog;  ///< Null once the dialog is gone.
     DWORD thread = ::GetCurrentThreadId();
+    std::vector<CSkinControl*> children;  ///< In the order of the screen, from child 1 on.
     std::vector<CElement*> elements;
 };
 
-/// The dialog (child 0), whose children are known by their numbers, or one control.
+/// The dialog, whose children are known by their numbers, or a control that has a window of its own.
 class CAccessibility::CElement final : public IAccessible {
 public:
-    CElement(Link* link, LONG child) : m_link(link), m_child(child) { m_link->elements.push_back(this); }
+    /// @param control  Null for the dialog.
+    CElement(Link* link, CSkinControl* control) : m_link(link), m_control(control) { m_link->elements.push_back(this); }
     CElement(const CElement&) = delete;
     CElement& operator=(const CElement&) = delete;
 
@@ -115,216 +141,190 @@ public:
     }
 
     STDMETHODIMP get_accParent(IDispatch** parent) override {
-        if (!parent) return E_POINTER;
-        *parent = nullptr;
-        return Answer([&](CSkinDialog& dialog) -> HRESULT {
-            if (m_child != CHILDID_SELF) {
-                *parent = new CElement(m_link.Get(), CHILDID_SELF);
-                return S_OK;
-            }
+        return Ask(Self(), parent, [&](CSkinDialog& dialog, CSkinControl* control) {
             const auto fromWindow =
                 AccessibilityLibrary().Find<decltype(&::AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
-            return fromWindow ? fromWindow(dialog.GetSafeHwnd(), static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
-                                           reinterpret_cast<void**>(parent))
-                              : S_FALSE;
+            return fromWindow
+                       ? fromWindow(control ? control->OwnWindow() : dialog.GetSafeHwnd(),
+                                    static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch, reinterpret_cast<void**>(parent))
+                       : S_FALSE;
         });
     }
     STDMETHODIMP get_accChildCount(long* count) override {
-        if (!count) return E_POINTER;
-        *count = 0;
-        return Answer([&](CSkinDialog& dialog) {
-            if (m_child == CHILDID_SELF) *count = static_cast<long>(dialog.Controls().size());
+        return Ask(Self(), count, [&](CSkinDialog&, CSkinControl* control) {
+            if (!control) *count = static_cast<long>(m_link->children.size());
             return S_OK;
         });
     }
     STDMETHODIMP get_accChild(VARIANT child, IDispatch** object) override {
-        if (!object) return E_POINTER;
-        *object = nullptr;
-        // Controls have no objects of their own: they are asked for by their numbers.
-        return About(
-            child, [](CSkinDialog&, std::size_t) { return S_FALSE; }, [](CSkinDialog&) { return E_INVALIDARG; });
+        return Ask(child, object, [&](CSkinDialog&, CSkinControl* control) -> HRESULT {
+            if (child.lVal == CHILDID_SELF) return E_INVALIDARG;
+            if (!control->OwnWindow()) return S_FALSE;  // Known by its number alone.
+            *object = new CElement(m_link.Get(), control);
+            return S_OK;
+        });
     }
     STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
-        return Text(
-            child, name, [](CSkinDialog& dialog, std::size_t index) { return NameOf(dialog.Controls(), index); },
-            [](CSkinDialog& dialog) {
-                CString title;
-                dialog.GetWindowText(title);
-                return title;
-            });
+        return Ask(child, name, [&](CSkinDialog& dialog, CSkinControl* control) {
+            CString text;
+            if (control) {
+                text = dialog.ControlName(*control);
+            } else {
+                dialog.GetWindowText(text);
+            }
+            return GiveText(text, name);
+        });
     }
     STDMETHODIMP get_accValue(VARIANT child, BSTR* value) override {
-        return Text(child, value, [](CSkinDialog& dialog, std::size_t index) { return FactsOf(dialog, index).value; });
+        return Ask(child, value, [&](CSkinDialog&, CSkinControl* control) {
+            return GiveText(control ? control->Facts().value : CString(), value);
+        });
     }
-    STDMETHODIMP get_accDescription(VARIANT child, BSTR* description) override { return Text(child, description); }
+    STDMETHODIMP get_accDescription(VARIANT child, BSTR* description) override {
+        return Ask(child, description, [](CSkinDialog&, CSkinControl*) { return S_FALSE; });
+    }
     STDMETHODIMP get_accHelp(VARIANT child, BSTR* help) override {
-        return Text(
-            child, help, [](CSkinDialog& dialog, std::size_t index) { return CString(dialog.Controls()[index].help); });
+        return Ask(child, help, [&](CSkinDialog& dialog, CSkinControl* control) {
+            return GiveText(control ? HelpOf(dialog, *control) : CString(), help);
+        });
     }
     STDMETHODIMP get_accHelpTopic(BSTR*, VARIANT, long*) override { return DISP_E_MEMBERNOTFOUND; }
     STDMETHODIMP get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) override {
-        return Text(child, shortcut, [](CSkinDialog& dialog, std::size_t index) {
-            const wchar_t letter = dialog.FocusRing().ShortcutOf(*dialog.Controls()[index].control);
-            return letter ? CString(L"Alt+") + letter : CString();
+        return Ask(child, shortcut, [&](CSkinDialog& dialog, CSkinControl* control) {
+            const wchar_t letter = control ? dialog.FocusRing().ShortcutOf(*control) : L'\0';
+            return GiveText(letter ? CString(L"Alt+") + letter : CString(), shortcut);
         });
     }
     STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
-        return Text(child, action,
-                    [](CSkinDialog& dialog, std::size_t index) { return CString(FactsOf(dialog, index).action); });
+        return Ask(child, action, [&](CSkinDialog&, CSkinControl* control) {
+            return GiveText(CString(control ? control->Facts().action : nullptr), action);
+        });
     }
     STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
-        return Number(
-            child, role, [](CSkinDialog& dialog, std::size_t index) { return FactsOf(dialog, index).role; },
-            [](CSkinDialog&) { return static_cast<LONG>(ROLE_SYSTEM_DIALOG); });
+        return Ask(child, role, [&](CSkinDialog&, CSkinControl* control) {
+            return GiveNumber(control ? control->Facts().role : ROLE_SYSTEM_DIALOG, role);
+        });
     }
     STDMETHODIMP get_accState(VARIANT child, VARIANT* state) override {
-        return Number(
-            child, state,
-            [](CSkinDialog& dialog, std::size_t index) {
-                const CSkinControl& control = *dialog.Controls()[index].control;
-                LONG bits = control.Facts().state;
-                if (control.TakesFocus()) bits |= STATE_SYSTEM_FOCUSABLE;
-                if (IsFocused(dialog, control)) bits |= STATE_SYSTEM_FOCUSED;
-                return bits;
-            },
-            [](CSkinDialog&) { return static_cast<LONG>(STATE_SYSTEM_FOCUSABLE); });
+        return Ask(child, state, [&](CSkinDialog& dialog, CSkinControl* control) {
+            if (!control) return GiveNumber(STATE_SYSTEM_FOCUSABLE, state);
+            LONG bits = control->Facts().state;
+            if (control->TakesFocus()) bits |= STATE_SYSTEM_FOCUSABLE;
+            if (control == FocusedIn(dialog)) bits |= STATE_SYSTEM_FOCUSED;
+            if (control == dialog.DefaultButton()) bits |= STATE_SYSTEM_DEFAULT;
+            return GiveNumber(bits, state);
+        });
     }
     STDMETHODIMP get_accFocus(VARIANT* child) override {
-        if (!child) return E_POINTER;
-        child->vt = VT_EMPTY;
-        return Answer([&](CSkinDialog& dialog) -> HRESULT {
-            const auto& entries = dialog.Controls();
-            for (std::size_t index = 0; index < entries.size(); ++index) {
-                if (!IsFocused(dialog, *entries[index].control)) continue;
-                const LONG focused = static_cast<LONG>(index) + 1;
-                if (m_child == CHILDID_SELF) return GiveNumber(focused, child);
-                return m_child == focused ? GiveNumber(CHILDID_SELF, child) : S_FALSE;
-            }
-            return S_FALSE;
+        return Ask(Self(), child, [&](CSkinDialog& dialog, CSkinControl* control) {
+            CSkinControl* const focused = FocusedIn(dialog);
+            if (!focused || (control && control != focused)) return S_FALSE;
+            return control ? GiveNumber(CHILDID_SELF, child) : GiveChild(*focused, child);
         });
     }
     STDMETHODIMP get_accSelection(VARIANT*) override { return DISP_E_MEMBERNOTFOUND; }
     STDMETHODIMP accSelect(long flags, VARIANT child) override {
-        return About(child, [&](CSkinDialog& dialog, std::size_t index) {
-            CSkinControl& control = *dialog.Controls()[index].control;
-            if (!(flags & SELFLAG_TAKEFOCUS) || !control.TakesFocus()) return E_INVALIDARG;
-            dialog.FocusRing().MoveTo(control);
+        return Ask(child, [&](CSkinDialog& dialog, CSkinControl* control) -> HRESULT {
+            if (!control) return DISP_E_MEMBERNOTFOUND;
+            if (!(flags & SELFLAG_TAKEFOCUS) || !control->TakesFocus()) return E_INVALIDARG;
+            dialog.FocusRing().MoveTo(*control);
             return S_OK;
         });
     }
     STDMETHODIMP accLocation(long* left, long* top, long* width, long* height, VARIANT child) override {
         if (!left || !top || !width || !height) return E_POINTER;
-        const auto give = [&](CRect place, HWND window) {
-            ::MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&place), 2);
+        return Ask(child, [&](CSkinDialog& dialog, CSkinControl* control) {
+            CRect place;
+            if (control) {
+                place = control->Bounds();
+            } else {
+                dialog.GetClientRect(place);
+            }
+            ::MapWindowPoints(dialog.GetSafeHwnd(), nullptr, reinterpret_cast<POINT*>(&place), 2);
             *left = place.left;
             *top = place.top;
             *width = place.Width();
             *height = place.Height();
             return S_OK;
-        };
-        return About(
-            child,
-            [&](CSkinDialog& dialog, std::size_t index) {
-                return give(dialog.Controls()[index].control->Bounds(), dialog.GetSafeHwnd());
-            },
-            [&](CSkinDialog& dialog) {
-                CRect client;
-                dialog.GetClientRect(client);
-                return give(client, dialog.GetSafeHwnd());
-            });
+        });
     }
     STDMETHODIMP accNavigate(long, VARIANT, VARIANT*) override { return DISP_E_MEMBERNOTFOUND; }
     STDMETHODIMP accHitTest(long x, long y, VARIANT* child) override {
-        if (!child) return E_POINTER;
-        child->vt = VT_EMPTY;
-        return Answer([&](CSkinDialog& dialog) -> HRESULT {
+        return Ask(Self(), child, [&](CSkinDialog& dialog, CSkinControl* control) {
             CPoint point(x, y);
             dialog.ScreenToClient(&point);
-            CRect client;
-            dialog.GetClientRect(client);
-            if (!client.PtInRect(point)) return S_FALSE;
-            const auto& entries = dialog.Controls();
-            for (std::size_t index = 0; index < entries.size(); ++index) {
-                const LONG hit = static_cast<LONG>(index) + 1;
-                if (!entries[index].control->Bounds().PtInRect(point)) continue;
-                if (m_child == CHILDID_SELF) return GiveNumber(hit, child);
-                if (m_child == hit) return GiveNumber(CHILDID_SELF, child);
-            }
-            return m_child == CHILDID_SELF ? GiveNumber(CHILDID_SELF, child) : S_FALSE;
+            CRect place;
+            dialog.GetClientRect(place);
+            if (control) place = control->Bounds();
+            if (!place.PtInRect(point)) return S_FALSE;
+            const auto& children = m_link->children;
+            const auto hit = std::find_if(children.begin(), children.end(), [&](const CSkinControl* candidate) {
+                return candidate->Bounds().PtInRect(point) && !(candidate->Facts().state & STATE_SYSTEM_INVISIBLE);
+            });
+            return control || hit == children.end() ? GiveNumber(CHILDID_SELF, child) : GiveChild(**hit, child);
         });
     }
     STDMETHODIMP accDoDefaultAction(VARIANT child) override {
-        return About(child, [](CSkinDialog& dialog, std::size_t index) {
-            CSkinControl& control = *dialog.Controls()[index].control;
-            if (!control.Facts().action || !control.TakesFocus()) return DISP_E_MEMBERNOTFOUND;
-            control.Activate();
+        return Ask(child, [](CSkinDialog&, CSkinControl* control) -> HRESULT {
+            if (!control) return DISP_E_MEMBERNOTFOUND;
+            const ControlFacts facts = control->Facts();
+            // The close button can be pressed, though it is no stop of Tab.
+            const bool canAct = facts.action && !(facts.state & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE));
+            if (!canAct) return DISP_E_MEMBERNOTFOUND;
+            control->Activate();
             return S_OK;
         });
     }
     STDMETHODIMP put_accName(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
     STDMETHODIMP put_accValue(VARIANT child, BSTR value) override {
-        return About(child, [value](CSkinDialog& dialog, std::size_t index) {
-            const bool set = dialog.Controls()[index].control->SetValueText(value ? value : L"");
-            return set ? S_OK : DISP_E_MEMBERNOTFOUND;
+        return Ask(child, [&](CSkinDialog&, CSkinControl* control) {
+            return control && control->SetValueText(value ? value : L"") ? S_OK : DISP_E_MEMBERNOTFOUND;
         });
     }
 
 private:
     ~CElement() { std::erase(m_link->elements, this); }
 
-    static ControlFacts FactsOf(CSkinDialog& dialog, std::size_t index) {
-        return dialog.Controls()[index].control->Facts();
+    static CSkinControl* FocusedIn(CSkinDialog& dialog) {
+        return ::GetForegroundWindow() == dialog.GetSafeHwnd() ? dialog.FocusRing().Focused() : nullptr;
     }
-    static bool IsFocused(CSkinDialog& dialog, const CSkinControl& control) {
-        return &control == dialog.FocusRing().Focused() && ::GetForegroundWindow() == dialog.GetSafeHwnd();
+    /// A control that has a window of its own by its object, others by their numbers.
+    HRESULT GiveChild(CSkinControl& control, VARIANT* child) {
+        if (!control.OwnWindow()) return GiveNumber(m_link->NumberOf(control), child);
+        child->pdispVal = new CElement(m_link.Get(), &control);
+        child->vt = VT_DISPATCH;
+        return S_OK;
     }
 
-    /// Runs a question on the dialog while it is there. All belongs to its thread; other apartments come by a proxy.
+    /// Asks the dialog, while it is there, about one of its controls or about itself (null). All belongs to its thread;
+    /// other apartments come by a proxy.
     template <typename Question>
-    HRESULT Answer(Question question) {
+    HRESULT Ask(const VARIANT& child, Question question) {
         if (::GetCurrentThreadId() != m_link->thread) return RPC_E_WRONG_THREAD;
         if (!m_link->dialog) return CO_E_OBJNOTCONNECTED;
+        if (child.vt != VT_I4) return E_INVALIDARG;
+        CSkinControl* control = m_control;
+        if (child.lVal != CHILDID_SELF) {
+            const auto& children = m_link->children;
+            if (control || child.lVal < 0 || child.lVal > static_cast<LONG>(children.size())) return E_INVALIDARG;
+            control = children[static_cast<std::size_t>(child.lVal - 1)];
+        }
         try {
-            return question(*m_link->dialog);
+            return question(*m_link->dialog, control);
         } catch (...) {
             return E_OUTOFMEMORY;
         }
     }
-    static HRESULT NotOfDialogs(CSkinDialog&) { return DISP_E_MEMBERNOTFOUND; }
-    template <typename OfControl, typename OfDialog = HRESULT (*)(CSkinDialog&)>
-    HRESULT About(const VARIANT& child, OfControl ofControl, OfDialog ofDialog = &NotOfDialogs) {
-        return Answer([&](CSkinDialog& dialog) -> HRESULT {
-            if (child.vt != VT_I4) return E_INVALIDARG;
-            if (child.lVal != CHILDID_SELF && m_child != CHILDID_SELF) return E_INVALIDARG;
-            const LONG number = child.lVal != CHILDID_SELF ? child.lVal : m_child;
-            if (number == CHILDID_SELF) return ofDialog(dialog);
-            if (number < 0 || number > static_cast<LONG>(dialog.Controls().size())) return E_INVALIDARG;
-            return ofControl(dialog, static_cast<std::size_t>(number - 1));
-        });
-    }
-    static CString NoText(CSkinDialog&, std::size_t) { return {}; }
-    static CString NoTextOfDialogs(CSkinDialog&) { return {}; }
-    template <typename OfControl = CString (*)(CSkinDialog&, std::size_t),
-              typename OfDialog = CString (*)(CSkinDialog&)>
-    HRESULT Text(const VARIANT& child, BSTR* text, OfControl ofControl = &NoText,
-                 OfDialog ofDialog = &NoTextOfDialogs) {
-        if (!text) return E_POINTER;
-        *text = nullptr;
-        return About(
-            child, [&](CSkinDialog& dialog, std::size_t index) { return GiveText(ofControl(dialog, index), text); },
-            [&](CSkinDialog& dialog) { return GiveText(ofDialog(dialog), text); });
-    }
-    template <typename OfControl, typename OfDialog>
-    HRESULT Number(const VARIANT& child, VARIANT* number, OfControl ofControl, OfDialog ofDialog) {
-        if (!number) return E_POINTER;
-        number->vt = VT_EMPTY;
-        return About(
-            child, [&](CSkinDialog& dialog, std::size_t index) { return GiveNumber(ofControl(dialog, index), number); },
-            [&](CSkinDialog& dialog) { return GiveNumber(ofDialog(dialog), number); });
+    /// The same, for a result that is empty where there is none.
+    template <typename Result, typename Question>
+    HRESULT Ask(const VARIANT& child, Result* result, Question question) {
+        if (!result) return E_POINTER;
+        *result = {};
+        return Ask(child, question);
     }
 
     const Microsoft::WRL::ComPtr<Link> m_link;
-    const LONG m_child;
+    CSkinControl* const m_control;
     LONG m_references = 1;
 };
 
@@ -332,13 +332,37 @@ CAccessibility::CAccessibility(CSkinDialog& dialog) : m_link(new Link) { m_link-
 
 CAccessibility::~CAccessibility() { Disconnect(); }
 
-LRESULT CAccessibility::ObjectFor(LONG child, WPARAM wParam) {
+void CAccessibility::NumberControls() {
+    if (!m_link->children.empty()) return;
+    std::vector<CSkinControl*> children;
+    for (const CSkinDialog::Entry& entry : m_link->dialog->Controls()) {
+        if (IsForReaders(*entry.control)) children.push_back(entry.control);
+    }
+    SortAsOnScreen(children);
+    m_link->children = std::move(children);
+}
+
+CString CAccessibility::NameOf(const CSkinControl& control) const {
+    const auto& entries = m_link->dialog->Controls();
+    const std::size_t index = IndexOf(entries, control);
+    CString name = control.Facts().name;
+    if (name.IsEmpty()) name = LabelOf(entries, index);
+    if (name.IsEmpty() && entries[index].help) name = entries[index].help;
+    return name;
+}
+
+void CAccessibility::Notify(const CSkinControl& control, DWORD event) const {
+    const LONG number = m_link->NumberOf(control);
+    if (number) ::NotifyWinEvent(event, m_link->dialog->GetSafeHwnd(), OBJID_CLIENT, number);
+}
+
+LRESULT CAccessibility::ObjectFor(CSkinControl* control, WPARAM wParam) {
     const auto lresultFromObject = AccessibilityLibrary().Find<decltype(&::LresultFromObject)>("LresultFromObject");
     if (!lresultFromObject || !m_link->dialog) return 0;
-    auto* element = new CElement(m_link.Get(), child);
+    auto* element = new CElement(m_link.Get(), control);
     const LRESULT result = lresultFromObject(__uuidof(IAccessible), wParam, element);
     element->Release();
-    return result;
+    return (std::max)(result, LRESULT{0});  // Below 0 it is an error.
 }
 
 void CAccessibility::Disconnect() {

@@ -6,6 +6,7 @@
 #include <oleacc.h>
 #include <wrl/client.h>
 
+class CSkinControl;
 class CSkinDialog;
 
 /// Gives accessible objects out. They may outlive the dialog, in whoever asked for them; then all they say is that they
@@ -17,8 +18,15 @@ public:
     CAccessibility(const CAccessibility&) = delete;
     CAccessibility& operator=(const CAccessibility&) = delete;
 
-    /// The answer to WM_GETOBJECT for the dialog (0) or the control of a number; 0 without the system's oleacc.
-    LRESULT ObjectFor(LONG child, WPARAM wParam);
+    /// Numbers the controls in the order of the screen, once: a number stays the same while the dialog is open.
+    void NumberControls();
+    /// The control's own name, or else its label's.
+    CString NameOf(const CSkinControl& control) const;
+    /// Tells of something that has happened to a control.
+    void Notify(const CSkinControl& control, DWORD event) const;
+    /// The answer to WM_GETOBJECT for the dialog (null) or a control that has a window of its own; 0 leaves it to the
+    /// system.
+    LRESULT ObjectFor(CSkinControl* control, WPARAM wParam);
     /// Cuts all objects off, also for clients in other apartments and processes.
     void Disconnect();
 

@@ -96,6 +96,11 @@ bool CComboDropWnd::Create(HWND owner) {
                     FromHandlePermanent(owner), 0) != FALSE;
 }
 
+void CComboDropWnd::SetName(LPCWSTR name) {
+    SetWindowText(name);
+    m_list.SetWindowText(name);
+}
+
 int CComboDropWnd::OnCreate(LPCREATESTRUCT create) {
     if (CWnd::OnCreate(create) == -1) return -1;
     MakeLayered(m_hWnd, kAlpha);
@@ -168,16 +173,22 @@ void CVelComboListBox::ShowDropDown(bool show) {
         if (::GetActiveWindow() == m_drop.GetSafeHwnd())
             ::SetFocus(::IsWindow(m_focusBefore) ? m_focusBefore : Parent());
         m_drop.ShowWindow(SW_HIDE);
-        Draw();
+        ShowDropState();
         return;
     }
     if (!m_drop.GetSafeHwnd() && !m_drop.Create(Parent())) return;
+    if (Site()) m_drop.SetName(Site()->ControlName(*this));
     if (m_drop.List().GetCount() > 0) m_drop.List().SetCurSel(CurrentIndex());
     m_focusBefore = ::GetFocus();
     m_drop.MoveWindow(DropRect());
     m_drop.ShowWindow(SW_SHOW);
     ::SetFocus(m_drop.List().GetSafeHwnd());
+    ShowDropState();
+}
+
+void CVelComboListBox::ShowDropState() {
     Draw();
+    Changed(EVENT_OBJECT_STATECHANGE);
 }
 
 void CVelComboListBox::SetEnabled(bool enabled) {
@@ -236,7 +247,7 @@ void CVelComboListBox::OnDeactivated() {
     m_closedUnderPointer = Bounds().PtInRect(cursor);
     m_closedAt = ::GetTickCount();
     m_drop.ShowWindow(SW_HIDE);
-    Draw();
+    ShowDropState();
 }
 
 void CVelComboListBox::OnPress(bool inside) {

@@ -34,6 +34,8 @@ class CComboDropWnd : public CGuarded<CWnd> {
 public:
     explicit CComboDropWnd(CVelComboListBox& combo) : m_list(combo), m_combo(combo) {}
     bool Create(HWND owner);
+    /// What screen readers call the window and the list in it.
+    void SetName(LPCWSTR name);
     CComboDropList& List() { return m_list; }
 
 protected:
@@ -84,6 +86,7 @@ protected:
 
 private:
     CRect DropRect();
+    void ShowDropState();
 
     CComboDropWnd m_drop{*this};
     int m_rowHeight = 18;

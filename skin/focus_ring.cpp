@@ -49,6 +49,18 @@ void SortBy(Iterator begin, Iterator end, Key key) {
 
 }  // namespace
 
+void SortAsOnScreen(std::vector<CSkinControl*>& controls) {
+    const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
+    const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
+    SortBy(controls.begin(), controls.end(), top);
+    for (auto row = controls.begin(); row != controls.end();) {
+        const auto next =
+            std::find_if(row, controls.end(), [&](auto* control) { return top(control) >= top(*row) + kSameRow; });
+        SortBy(row, next, left);
+        row = next;
+    }
+}
+
 bool CFocusRing::Translate(const MSG& message) {
     const HWND window = m_dialog.GetSafeHwnd();
     if (message.hwnd != window && !::IsChild(window, message.hwnd)) {
@@ -153,7 +165,10 @@ void CFocusRing::OnPress(const MSG& message) {
     CPoint point(message.lParam);
     ::MapWindowPoints(message.hwnd, m_dialog.GetSafeHwnd(), &point, 1);
     for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
-        if (entry.control->TakesFocus() && entry.control->Bounds().PtInRect(point)) Focus(entry.control);
+        if (!entry.control->TakesFocus() || !entry.control->Bounds().PtInRect(point)) continue;
+        if (entry.control == m_focused) continue;
+        Focus(entry.control);
+        AnnounceFocus();
     }
 }
 
@@ -162,14 +177,7 @@ CFocusRing::Stops CFocusRing::InScreenOrder() const {
     for (const CSkinDialog::Entry& entry : m_dialog.Controls()) {
         if (entry.control->TakesFocus() || entry.control == m_focused) stops.push_back(entry.control);
     }
-    const auto top = [](const CSkinControl* control) { return control->Bounds().top; };
-    const auto left = [](const CSkinControl* control) { return control->Bounds().left; };
-    SortBy(stops.begin(), stops.end(), top);
-    for (auto row = stops.begin(); row != stops.end();) {
-        const auto next = std::find_if(row, stops.end(), [&](auto* stop) { return top(stop) >= top(*row) + kSameRow; });
-        SortBy(row, next, left);
-        row = next;
-    }
+    SortAsOnScreen(stops);
     return stops;
 }
 
@@ -213,7 +221,8 @@ void CFocusRing::Choose(int direction) {
 void CFocusRing::MoveTo(CSkinControl& control) {
     ShowMark();
     Focus(&control);
-    TakeSystemFocus();
+    // Where the system's focus comes along, the dialog announces the control after its own window.
+    if (!TakeSystemFocus()) AnnounceFocus();
     if (const HWND window = control.FocusWindow()) {
         if (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) ::SendMessageW(window, EM_SETSEL, 0, -1);
     }
@@ -226,12 +235,21 @@ void CFocusRing::Focus(CSkinControl* control) {
     m_focused = control;
     m_wheel = 0;
     InvalidateMark();
-    if (control && !control->FocusWindow()) m_dialog.ControlChanged(*control, EVENT_OBJECT_FOCUS);
 }
 
-void CFocusRing::TakeSystemFocus() {
+bool CFocusRing::TakeSystemFocus() {
     const HWND window = m_focused && m_focused->FocusWindow() ? m_focused->FocusWindow() : m_dialog.GetSafeHwnd();
-    if (::GetFocus() != window) ::SetFocus(window);
+    if (::GetFocus() == window) return false;
+    ::SetFocus(window);
+    return true;
+}
+
+void CFocusRing::AnnounceFocus() const {
+    if (m_focused && !m_focused->FocusWindow()) m_dialog.ControlChanged(*m_focused, EVENT_OBJECT_FOCUS);
+}
+
+const CSkinControl* CFocusRing::FocusedButton() const {
+    return m_markShown && m_focused && m_focused->Facts().role == ROLE_SYSTEM_PUSHBUTTON ? m_focused : nullptr;
 }
 
 void CFocusRing::Adopt(HWND window) {
@@ -243,6 +261,9 @@ void CFocusRing::Adopt(HWND window) {
 bool CFocusRing::KeepsSystemFocus() const { return m_markShown && m_focused && !m_focused->FocusWindow(); }
 
 void CFocusRing::Repair() {
+    // A disabled window loses the system's focus to nobody, and the dialog would be deaf.
+    const HWND focus = ::GetFocus();
+    const bool isDeaf = (!focus || !::IsWindowEnabled(focus)) && ::GetActiveWindow() == m_dialog.GetSafeHwnd();
     if (m_focused && !m_focused->TakesFocus()) {
         const Stops stops = InScreenOrder();
         const auto current = std::find(stops.begin(), stops.end(), m_focused);
@@ -250,10 +271,9 @@ void CFocusRing::Repair() {
         auto next = std::find_if(current, stops.end(), canHaveIt);
         if (next == stops.end()) next = std::find_if(stops.begin(), stops.end(), canHaveIt);
         Focus(next == stops.end() ? nullptr : *next);
+        if (!isDeaf) AnnounceFocus();
     }
-    // A disabled window loses the system's focus to nobody, and the dialog would be deaf.
-    const HWND focus = ::GetFocus();
-    if ((!focus || !::IsWindowEnabled(focus)) && ::GetActiveWindow() == m_dialog.GetSafeHwnd()) TakeSystemFocus();
+    if (isDeaf) TakeSystemFocus();
 }
 
 void CFocusRing::TurnWheel(int delta, CPoint point) {

@@ -10,6 +10,9 @@
 
 class CSkinDialog;
 
+/// Row by row, and each row from left to right.
+void SortAsOnScreen(std::vector<CSkinControl*>& controls);
+
 /// The focus is the dialog's own notion. The system's follows: an edit's window, or the dialog's for all that is drawn.
 class CFocusRing {
 public:
@@ -24,6 +27,11 @@ public:
     void Adopt(HWND window);
     /// Whether the dialog's window keeps the system's focus when it comes there.
     bool KeepsSystemFocus() const;
+    /// Tells screen readers which drawn control has the focus. The system tells of windows.
+    void AnnounceFocus() const;
+    /// The push button that Enter presses because it has the focus; null for another control, or until a key has shown
+    /// where the focus is.
+    const CSkinControl* FocusedButton() const;
     /// Moves the focus on from a control that can't have it any more.
     void Repair();
     /// A notch of the wheel away from the user (1) or toward (-1), at a point of the dialog.
@@ -50,7 +58,7 @@ private:
     void Advance(int direction);
     void Choose(int direction);
     void Focus(CSkinControl* control);
-    void TakeSystemFocus();
+    bool TakeSystemFocus();
     void InvalidateMark() const;
 
     CSkinDialog& m_dialog;

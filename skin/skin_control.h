@@ -22,8 +22,10 @@ public:
     virtual void ControlDrawn(const CRect& area) = 0;
     /// @param event  EVENT_OBJECT_STATECHANGE or EVENT_OBJECT_VALUECHANGE.
     virtual void ControlChanged(CSkinControl& control, DWORD event) = 0;
-    /// The answer to WM_GETOBJECT of a control's own window.
+    /// The answer to WM_GETOBJECT of a control's own window; 0 leaves it to the system.
     virtual LRESULT ControlObject(CSkinControl& control, WPARAM wParam) = 0;
+    /// What a screen reader calls a control.
+    virtual CString ControlName(const CSkinControl& control) const = 0;
 
 protected:
     ~CControlSite() = default;
@@ -46,6 +48,8 @@ public:
     virtual bool TakesFocus() const { return false; }
     /// The window that the system's focus goes to; null for a control that the dialog hands its keys to.
     virtual HWND FocusWindow() const { return nullptr; }
+    /// The control's own window; null for one that is drawn on the dialog.
+    virtual HWND OwnWindow() const { return FocusWindow(); }
     /// What Space does.
     virtual void Activate() {}
     /// What one of the keys that move does (arrows, Page Up and Down, Home, End, F4), and a notch of the wheel: an arrow.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "skin/apartment.h"
 #include "skin/layered_window.h"
 #include "skin/skin_folder.h"
 
@@ -66,6 +67,11 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
 END_MESSAGE_MAP()
 
 CSkinDialog::CSkinDialog() { InitModalIndirect(&kEmptyDialog.header, &m_owner); }
+
+INT_PTR CSkinDialog::DoModal() {
+    const CApartment apartment;  // For as long as screen readers may hold objects of the dialog.
+    return CDialog::DoModal();
+}
 
 void CSkinDialog::AddControl(CSkinControl& control, LPCWSTR help, const CRect& place) {
     m_controls.push_back({&control, help, place});
@@ -175,6 +181,7 @@ void CSkinDialog::OnSize(UINT type, int cx, int cy) {
     LayoutControls();
     CreateBackground();
     Invalidate();
+    m_accessibility.NumberControls();
 }
 
 void CSkinDialog::CreateBackground() {
@@ -354,6 +361,7 @@ BOOL CSkinDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
 void CSkinDialog::OnSetFocus(CWnd* previous) {
     // The system would hand it on to the first window that takes it.
     if (!m_focus.KeepsSystemFocus()) CDialog::OnSetFocus(previous);
+    if (::GetFocus() == m_hWnd) m_focus.AnnounceFocus();
 }
 
 BOOL CSkinDialog::OnMouseWheel(UINT /*flags*/, short delta, CPoint point) {
@@ -368,15 +376,14 @@ void CSkinDialog::OnFocusMoved(CSkinControl& control) {
     MoveBy(WayInto(WorkAreaOf(m_hWnd), place));
 }
 
-LONG CSkinDialog::NumberOf(const CSkinControl& control) const {
-    const auto entry = std::find_if(
-        m_controls.begin(), m_controls.end(), [&](const Entry& candidate) { return candidate.control == &control; });
-    return static_cast<LONG>(entry - m_controls.begin()) + 1;
+const CSkinControl* CSkinDialog::DefaultButton() const {
+    if (const CSkinControl* focused = m_focus.FocusedButton()) return focused;
+    return m_okButton.TakesFocus() ? &m_okButton : nullptr;
 }
 
 void CSkinDialog::ControlChanged(CSkinControl& control, DWORD event) {
     if (!IsWindowVisible()) return;
-    ::NotifyWinEvent(event, m_hWnd, OBJID_CLIENT, NumberOf(control));
+    m_accessibility.Notify(control, event);
     if (event != EVENT_OBJECT_STATECHANGE || control.TakesFocus() || m_repairPending) return;
     // Once for all that is being disabled.
     m_repairPending = PostMessage(kRepairFocus) != FALSE;
@@ -388,13 +395,9 @@ LRESULT CSkinDialog::OnRepairFocus(WPARAM, LPARAM) {
     return 0;
 }
 
-LRESULT CSkinDialog::ControlObject(CSkinControl& control, WPARAM wParam) {
-    return m_accessibility.ObjectFor(NumberOf(control), wParam);
-}
-
 LRESULT CSkinDialog::OnAskForObject(WPARAM wParam, LPARAM lParam) {
     const bool client = static_cast<LONG>(lParam) == OBJID_CLIENT;
-    const LRESULT object = client ? m_accessibility.ObjectFor(CHILDID_SELF, wParam) : 0;
+    const LRESULT object = client ? m_accessibility.ObjectFor(nullptr, wParam) : 0;
     return object ? object : Default();
 }
 

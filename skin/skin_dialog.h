@@ -45,8 +45,14 @@ public:
 
     void ControlDrawn(const CRect& area) override { m_focus.DrawMark(area); }
     void ControlChanged(CSkinControl& control, DWORD event) override;
-    LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override;
+    LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override {
+        return m_accessibility.ObjectFor(&control, wParam);
+    }
+    CString ControlName(const CSkinControl& control) const override { return m_accessibility.NameOf(control); }
+    /// The button that Enter presses: the one that has the focus, or else OK. Null where OK can't be pressed.
+    const CSkinControl* DefaultButton() const;
 
+    INT_PTR DoModal() override;
     BOOL PreTranslateMessage(MSG* message) override;
     /// Draws all anew, after the contrast has changed.
     void ShowContrast();
@@ -103,8 +109,6 @@ protected:
     CSkinButton m_okButton;
 
 private:
-    LONG NumberOf(const CSkinControl& control) const;
-
     void CreateBackground();
     void DrawTitle(HDC dc);
     void Press(CPoint point);

@@ -43,6 +43,7 @@ public:
 
     // The window itself handles no keys: the dialog, which has them, calls these.
     bool TakesFocus() const override;
+    HWND OwnWindow() const override { return m_hWnd; }
     /// Proposes the number that a key leads to, as a drag would; nothing where that number stands already.
     void HandleKey(UINT key) override;
     ControlFacts Facts() const override;

@@ -188,6 +188,7 @@ TEST(Keyboard, WorksEveryControlOfEveryDialogAsTheMouseDoes) {
                 const CRect& after = stops[index].place;
                 EXPECT_TRUE(after.left > before.right - 1 || after.top > before.top) << index;
                 EXPECT_GT(after.top + 10, before.top) << index;
+                EXPECT_GT(stops[index].child, stops[index - 1].child) << "readers go the same way";
             }
             ASSERT_GE(stops.size(), 4U);
             const std::wstring last[] = {L"Set as default", L"Cancel", L"OK"};

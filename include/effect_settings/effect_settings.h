@@ -567,7 +567,8 @@ extern "C" {
 /// Call it on the thread that runs the host's windows. One more call before it has returned, on this
 /// thread or another, is not supported, but survived. The thread's active window becomes the dialog's
 /// owner: it is disabled while the dialog is open and active again afterwards. The calling thread must have COM
-/// initialised if the host's or the filters' objects need that; the library itself does not.
+/// initialised if the host's or the filters' objects need that. On a thread without COM the library initialises it, as a
+/// single-threaded apartment, while the dialog is open: screen readers come through it.
 ///
 /// @param host         Address of the host's IMediaHost pointer; must be valid. The library borrows the host for
 ///                     the call and neither adds nor releases a reference to it. The interface pointer behind the

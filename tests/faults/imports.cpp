@@ -21,7 +21,7 @@ constexpr char kCannotFail[] =
     "GetSystemTimeAsFileTime RaiseException RtlAddFunctionTable RtlCaptureContext RtlLookupFunctionEntry "
     "RtlUnwindEx RtlVirtualUnwind Sleep SleepConditionVariableSRW WakeAllConditionVariable TlsGetValue "
     "VirtualProtect VirtualQuery GdipFree GdiplusShutdown SysFreeString SysStringLen ShowWindow "
-    "DestroyWindow CoTaskMemFree ";
+    "DestroyWindow CoTaskMemFree CoUninitialize ";
 
 /// What a function returns when it fails.
 std::int32_t FailureOf(const std::string& library, const std::string& name) {

@@ -51,9 +51,27 @@ public:
         VARIANT child;
         ::VariantInit(&child);
         m_object->get_accFocus(&child);
-        return child.vt == VT_I4 ? child.lVal : 0;
+        return NumberOf(child);
+    }
+    /// The child at a point of the dialog; 0 for the dialog itself, -1 for nothing.
+    long At(CPoint point, HWND dialog) const {
+        ::ClientToScreen(dialog, &point);
+        VARIANT child;
+        ::VariantInit(&child);
+        m_object->accHitTest(point.x, point.y, &child);
+        return child.vt == VT_EMPTY ? -1 : NumberOf(child);
     }
     HRESULT Act(long child) const { return m_object->accDoDefaultAction(Child(child)); }
+    HRESULT SetValue(long child, const wchar_t* value) const {
+        return m_object->put_accValue(Child(child), CBstr(value).Get());
+    }
+    HRESULT Select(long child) const { return m_object->accSelect(SELFLAG_TAKEFOCUS, Child(child)); }
+    /// The window in which a child's own object says it stands; null for a child that has no object.
+    HWND WindowOf(long child) const {
+        ComPtr<IDispatch> object;
+        m_object->get_accChild(Child(child), object.GetAddressOf());
+        return object.Get() ? WindowOf(object.Get()) : nullptr;
+    }
 
     static VARIANT Child(long number) {
         VARIANT child;
@@ -64,6 +82,22 @@ public:
     }
 
 private:
+    static HWND WindowOf(IDispatch* object) {
+        ComPtr<IAccessible> accessible;
+        HWND window = nullptr;
+        object->QueryInterface(__uuidof(IAccessible), reinterpret_cast<void**>(accessible.GetAddressOf()));
+        ::WindowFromAccessibleObject(accessible.Get(), &window);
+        return window;
+    }
+    long NumberOf(const VARIANT& child) const {
+        if (child.vt != VT_DISPATCH) return child.vt == VT_I4 ? child.lVal : 0;
+        const HWND window = WindowOf(child.pdispVal);
+        child.pdispVal->Release();
+        for (long number = 1; number <= Count(); ++number) {
+            if (WindowOf(number) == window) return number;
+        }
+        return 0;
+    }
     std::wstring Text(HRESULT (STDMETHODCALLTYPE IAccessible::*get)(VARIANT, BSTR*), long child) const {
         BSTR text = nullptr;
         (m_object.Get()->*get)(Child(child), &text);
