@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "skin/kept_drawing.h"
 #include "skin/layered_window.h"
 #include "skin/skin_folder.h"
 
@@ -62,6 +63,8 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
     ON_MESSAGE(kRepairFocus, OnRepairFocus)
     ON_MESSAGE(WM_SETTEXT, OnSetText)
     ON_MESSAGE(WM_SETTINGCHANGE, OnSettingChange)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, OnColorsChange)
+    ON_MESSAGE(WM_THEMECHANGED, OnColorsChange)
     ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
@@ -395,14 +398,29 @@ LRESULT CSkinDialog::OnAskForObject(WPARAM wParam, LPARAM lParam) {
     return object ? object : Default();
 }
 
-LRESULT CSkinDialog::OnSettingChange(WPARAM, LPARAM) {
-    const bool before = IsHighContrast();
-    UpdateContrast();
-    if (IsHighContrast() != before) ShowContrast();
+LRESULT CSkinDialog::OnSettingChange(WPARAM action, LPARAM) {
+    switch (action) {
+        case SPI_SETHIGHCONTRAST:
+        case SPI_SETFONTSMOOTHING:
+        case SPI_SETFONTSMOOTHINGTYPE:
+        case SPI_SETFONTSMOOTHINGCONTRAST:
+        case SPI_SETFONTSMOOTHINGORIENTATION:
+            DrawAnew();
+            break;
+        default:
+            break;
+    }
     return Default();
 }
 
-void CSkinDialog::ShowContrast() {
+LRESULT CSkinDialog::OnColorsChange(WPARAM, LPARAM) {
+    DrawAnew();
+    return Default();
+}
+
+void CSkinDialog::DrawAnew() {
+    UpdateContrast();
+    ReleaseKeptDrawings();
     CreateBackground();
-    RedrawWindow(nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    RedrawWindow(nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

@@ -43,8 +43,6 @@ public:
     LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override;
 
     BOOL PreTranslateMessage(MSG* message) override;
-    /// Draws all anew, after the contrast has changed.
-    void ShowContrast();
 
 protected:
     // Both create controls once the window exists; a false makes the dialog's creation fail.
@@ -52,7 +50,6 @@ protected:
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
     /// Places the controls; runs after every change of the size.
     virtual void LayoutControls();
-    virtual void SetSkinBackground(HDC background);
     /// Draws the controls that touch an area.
     virtual void PaintControls(const CRect& area);
     virtual void RelayMouseEvent(UINT message, CPoint point);
@@ -89,7 +86,8 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* other);
     afx_msg LRESULT OnRepairFocus(WPARAM, LPARAM);
     afx_msg LRESULT OnSetText(WPARAM, LPARAM);
-    afx_msg LRESULT OnSettingChange(WPARAM, LPARAM);
+    afx_msg LRESULT OnSettingChange(WPARAM action, LPARAM);
+    afx_msg LRESULT OnColorsChange(WPARAM, LPARAM);
     afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -100,7 +98,9 @@ protected:
 private:
     LONG NumberOf(const CSkinControl& control) const;
 
+    void SetSkinBackground(HDC background);
     void CreateBackground();
+    void DrawAnew();
     void DrawTitle(HDC dc);
     void Press(CPoint point);
     bool IsEmptyAt(CPoint point) const;

@@ -3,20 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "area_dialog_rows.h"
-#include "plain_dialog_rows.h"
+#include "all_dialog_rows.h"
 #include "support/dialog_session.h"
 
 namespace {
-
-const std::vector<DialogRow>& AllDialogRows() {
-    static const std::vector<DialogRow> rows = [] {
-        std::vector<DialogRow> all = PlainDialogRows();
-        for (DialogRow& row : AreaDialogRows()) all.push_back(std::move(row));
-        return all;
-    }();
-    return rows;
-}
 
 TEST(AllDialogs, EveryEffectHasARow) {
     const auto hasRow = [](EffectId effect) {
