@@ -239,19 +239,18 @@ void CVelComboListBox::OnDeactivated() {
     Draw();
 }
 
-void CVelComboListBox::OnPress(bool inside) {
+void CVelComboListBox::OnPress(CPoint point) {
     // A press on the item takes the activation from the list first and arrives afterwards, but is the older one.
     const bool pressClosedIt = std::exchange(m_closedUnderPointer, false) &&
                                static_cast<LONG>(static_cast<DWORD>(::GetMessageTime()) - m_closedAt) <= 0;
-    if (inside) {
+    if (Bounds().PtInRect(point)) {
         if (!pressClosedIt) ShowDropDown(!IsDropped());
         return;
     }
-    CPoint cursor;
-    ::GetCursorPos(&cursor);
+    ::ClientToScreen(Parent(), &point);
     CRect popup;
     m_drop.GetWindowRect(popup);
-    if (!popup.PtInRect(cursor)) ShowDropDown(false);
+    if (!popup.PtInRect(point)) ShowDropDown(false);
 }
 
 void CVelComboListBox::Paint(HDC dc, CSize size) {

@@ -78,7 +78,7 @@ public:
     void OnDeactivated();
 
 protected:
-    void OnPress(bool inside) override;
+    void OnPress(CPoint point) override;
     bool PostsCommand() const override { return false; }
     void Paint(HDC dc, CSize size) override;
 

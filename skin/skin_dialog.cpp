@@ -299,7 +299,10 @@ void CSkinDialog::DragTo(CPoint point) {
 }
 
 void CSkinDialog::OnCaptureChanged(CWnd* other) {
-    m_dragging = false;
+    if (::GetCapture() != m_hWnd) {
+        m_dragging = false;
+        RelayMouseEvent(WM_CAPTURECHANGED, CPoint(-99, -99));
+    }
     CDialog::OnCaptureChanged(other);
 }
 
@@ -314,8 +317,8 @@ void CSkinDialog::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 void CSkinDialog::OnLButtonUp(UINT flags, CPoint point) {
-    if (m_dragging) ::ReleaseCapture();
     RelayMouseEvent(WM_LBUTTONUP, point);
+    if (::GetCapture() == m_hWnd) ::ReleaseCapture();
     CDialog::OnLButtonUp(flags, point);
 }
 
