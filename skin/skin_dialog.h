@@ -40,6 +40,7 @@ public:
 
     void ControlDrawn(const CRect& area) override { m_focus.DrawMark(area); }
     void ControlChanged(CSkinControl& control, DWORD event) override;
+    void LeaveControl(CSkinControl& control) override { m_focus.MoveOnFrom(control); }
     LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override;
 
     BOOL PreTranslateMessage(MSG* message) override;

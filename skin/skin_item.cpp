@@ -67,6 +67,7 @@ void CSkinItem::Draw() {
 ControlFacts CSkinItem::Facts() const {
     ControlFacts facts;
     facts.name = m_text;
+    facts.caption = m_text;
     if (!m_enabled) facts.state |= STATE_SYSTEM_UNAVAILABLE;
     if (!m_visible || m_rect.IsRectEmpty()) facts.state |= STATE_SYSTEM_INVISIBLE;
     return facts;
