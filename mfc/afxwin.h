@@ -154,6 +154,7 @@ protected:
     afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
     afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnSysKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
 
@@ -276,6 +277,10 @@ public:
     int GetCount() const { return Ask(LB_GETCOUNT); }
     int GetCurSel() const { return Ask(LB_GETCURSEL); }
     int SetCurSel(int index) { return Ask(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+    /// The next row after one that begins with a text, whatever its case; after the last comes the first.
+    int FindString(int after, LPCWSTR text) const {
+        return Ask(LB_FINDSTRING, static_cast<WPARAM>(after), reinterpret_cast<LPARAM>(text));
+    }
     int GetTextLen(int index) const { return Ask(LB_GETTEXTLEN, static_cast<WPARAM>(index)); }
     void GetText(int index, CString& text) const;
     UINT ItemFromPoint(CPoint point, BOOL& outside) const;

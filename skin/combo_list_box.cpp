@@ -29,6 +29,7 @@ BEGIN_MESSAGE_MAP(CComboDropList, CListBox)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
     ON_WM_KEYDOWN()
+    ON_WM_SYSKEYDOWN()
 END_MESSAGE_MAP()
 
 void CComboDropList::MeasureItem(LPMEASUREITEMSTRUCT item) {
@@ -65,13 +66,25 @@ void CComboDropList::OnLButtonUp(UINT flags, CPoint point) {
 }
 
 void CComboDropList::OnKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (key == VK_RETURN) {
-        Pick(GetCurSel());
-    } else if (key == VK_ESCAPE) {
-        m_combo.ShowDropDown(false);
-    } else {
-        CListBox::OnKeyDown(key, repeat, flags);
+    switch (key) {
+        case VK_F4:
+            if (flags & KF_REPEAT) return;  // Of the press that opened the list.
+            [[fallthrough]];
+        case VK_RETURN:
+            return Pick(GetCurSel());
+        case VK_TAB:
+            Pick(GetCurSel());
+            return m_combo.OnTab();
+        case VK_ESCAPE:
+            return m_combo.ShowDropDown(false);
+        default:
+            return CListBox::OnKeyDown(key, repeat, flags);
     }
+}
+
+void CComboDropList::OnSysKeyDown(UINT key, UINT repeat, UINT flags) {
+    if (key != VK_UP && key != VK_DOWN) return CListBox::OnSysKeyDown(key, repeat, flags);
+    if (!(flags & KF_REPEAT)) Pick(GetCurSel());
 }
 
 void CComboDropList::Pick(int row) {
@@ -213,11 +226,20 @@ void CVelComboListBox::HandleKey(UINT key) {
     }
     const int last = m_drop.List().GetCount() - 1;
     const int current = CurrentIndex();
-    const int row = key == VK_HOME || key == VK_PRIOR ? 0
-                    : key == VK_END || key == VK_NEXT ? last
-                    : key == VK_UP || key == VK_LEFT  ? (std::max)(current - 1, 0)
-                                                      : (std::min)(current + 1, last);
-    if (row > last || row == current) return;
+    Choose(key == VK_HOME || key == VK_PRIOR ? 0
+           : key == VK_END || key == VK_NEXT ? last
+           : key == VK_UP || key == VK_LEFT  ? (std::max)(current - 1, 0)
+                                             : (std::min)(current + 1, last));
+}
+
+bool CVelComboListBox::HandleLetter(wchar_t letter) {
+    const wchar_t beginning[] = {letter, L'\0'};
+    Choose(m_drop.List().FindString(CurrentIndex(), beginning));
+    return true;
+}
+
+void CVelComboListBox::Choose(int row) {
+    if (row < 0 || row >= m_drop.List().GetCount() || row == CurrentIndex()) return;
     CString text;
     m_drop.List().GetText(row, text);
     OnPicked(text);
@@ -250,19 +272,22 @@ void CVelComboListBox::OnDeactivated() {
     ShowDropState();
 }
 
-void CVelComboListBox::OnPress(bool inside) {
+void CVelComboListBox::OnTab() {
+    if (Site()) Site()->LeaveControl(*this);
+}
+
+void CVelComboListBox::OnPress(CPoint point) {
     // A press on the item takes the activation from the list first and arrives afterwards, but is the older one.
     const bool pressClosedIt = std::exchange(m_closedUnderPointer, false) &&
                                static_cast<LONG>(static_cast<DWORD>(::GetMessageTime()) - m_closedAt) <= 0;
-    if (inside) {
+    if (Bounds().PtInRect(point)) {
         if (!pressClosedIt) ShowDropDown(!IsDropped());
         return;
     }
-    CPoint cursor;
-    ::GetCursorPos(&cursor);
+    ::ClientToScreen(Parent(), &point);
     CRect popup;
     m_drop.GetWindowRect(popup);
-    if (!popup.PtInRect(cursor)) ShowDropDown(false);
+    if (!popup.PtInRect(point)) ShowDropDown(false);
 }
 
 void CVelComboListBox::Paint(HDC dc, CSize size) {

@@ -9,7 +9,7 @@ class CVelComboListBox;
 /// Posted to the parent after a pick: WPARAM is the CVelComboListBox's address, LPARAM is 0.
 inline constexpr UINT WM_SKIN_COMBO_SELECT = WM_USER + 598;
 
-/// The rows. The highlight follows the pointer; a release, or Enter, picks.
+/// The rows. The highlight follows the pointer; a release picks, and so do Enter, Tab and the keys that open the list.
 class CComboDropList : public CGuarded<CListBox> {
 public:
     explicit CComboDropList(CVelComboListBox& combo) : m_combo(combo) {}
@@ -21,6 +21,7 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSysKeyDown(UINT key, UINT repeat, UINT flags);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -73,20 +74,24 @@ public:
     void Activate() override { ShowDropDown(!IsDropped()); }
     /// Arrows choose the row before or after, Home and End the first and the last.
     void HandleKey(UINT key) override;
+    /// Chooses the next row that begins with the letter.
+    bool HandleLetter(wchar_t letter) override;
     ControlFacts Facts() const override;
 
     // Called by the list.
     void OnPicked(LPCWSTR text);
     void OnDeactivated();
+    void OnTab();
 
 protected:
-    void OnPress(bool inside) override;
+    void OnPress(CPoint point) override;
     bool PostsCommand() const override { return false; }
     void Paint(HDC dc, CSize size) override;
 
 private:
     CRect DropRect();
     void ShowDropState();
+    void Choose(int row);
 
     CComboDropWnd m_drop{*this};
     int m_rowHeight = 18;

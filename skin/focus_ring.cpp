@@ -27,6 +27,23 @@ bool IsOutdated(const MSG& message) {
 
 bool IsMovingKey(WPARAM key) { return key >= VK_PRIOR && key <= VK_DOWN; }
 
+/// Whether a key works the dialog, rather than the keyboard (Shift, Caps Lock), the system or what plays music.
+bool IsForDialog(WPARAM key) {
+    switch (key) {
+        case VK_SHIFT:
+        case VK_CONTROL:
+        case VK_CAPITAL:
+        case VK_NUMLOCK:
+        case VK_SCROLL:
+        case VK_LWIN:
+        case VK_RWIN:
+        case VK_SLEEP:
+            return false;
+        default:
+            return key < VK_BROWSER_BACK || key > VK_LAUNCH_APP2;
+    }
+}
+
 wchar_t Upper(wchar_t letter) { return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(letter))); }
 
 /// The first letter of a button's or a box's caption, in upper case; 0 for other controls.
@@ -34,8 +51,8 @@ wchar_t LetterOf(const CSkinControl& control) {
     const ControlFacts facts = control.Facts();
     const bool pressable = facts.role == ROLE_SYSTEM_PUSHBUTTON || facts.role == ROLE_SYSTEM_CHECKBUTTON ||
                            facts.role == ROLE_SYSTEM_RADIOBUTTON;
-    const bool captioned = pressable && !facts.name.IsEmpty() && !(facts.state & STATE_SYSTEM_INVISIBLE);
-    return captioned ? Upper(facts.name[0]) : L'\0';
+    const bool captioned = pressable && !facts.caption.IsEmpty() && !(facts.state & STATE_SYSTEM_INVISIBLE);
+    return captioned ? Upper(facts.caption[0]) : L'\0';
 }
 
 /// Keeps the order of equals. They are few.
@@ -63,15 +80,15 @@ void SortAsOnScreen(std::vector<CSkinControl*>& controls) {
 
 bool CFocusRing::Translate(const MSG& message) {
     const HWND window = m_dialog.GetSafeHwnd();
-    if (message.hwnd != window && !::IsChild(window, message.hwnd)) {
-        // The open list of a drop-down: its keys come by here too, but most are its own.
-        return (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) && OnSystemKey(message);
-    }
+    // The keys of an open drop-down list come by here too, but are its own.
+    if (message.hwnd != window && !::IsChild(window, message.hwnd)) return false;
     switch (message.message) {
         case WM_KEYDOWN:
             return OnKeyDown(message);
         case WM_SYSKEYDOWN:
             return OnSystemKey(message);
+        case WM_CHAR:
+            return message.hwnd == window && m_focused && m_focused->HandleLetter(static_cast<wchar_t>(message.wParam));
         case WM_SYSCHAR:
             return OnLetter(static_cast<wchar_t>(message.wParam));
         case WM_LBUTTONDOWN:
@@ -85,7 +102,7 @@ bool CFocusRing::Translate(const MSG& message) {
 
 bool CFocusRing::OnKeyDown(const MSG& message) {
     const WPARAM key = message.wParam;
-    if (key == VK_SHIFT || key == VK_CONTROL) return false;
+    if (!IsForDialog(key)) return false;
     if (IsOutdated(message)) return true;
     const bool markWasShown = m_markShown;
     ShowMark();
@@ -104,8 +121,13 @@ bool CFocusRing::OnKeyDown(const MSG& message) {
     if (key == VK_ESCAPE) return false;
     if (m_focused && !m_focused->FocusWindow() && (key == VK_SPACE || key == VK_F4 || IsMovingKey(key))) {
         TakeSystemFocus();
-        if (key != VK_SPACE) return OnMovingKey(message);
-        if (!IsRepeat(message)) m_focused->Activate();
+        if (IsMovingKey(key)) return OnMovingKey(message);
+        if (IsRepeat(message)) return true;
+        if (key == VK_SPACE) {
+            m_focused->Activate();
+        } else {
+            m_focused->HandleKey(VK_F4);
+        }
         return true;
     }
     Adopt(message.hwnd);  // What is typed into an edit makes it the focused one.
@@ -130,9 +152,8 @@ bool CFocusRing::OnMovingKey(const MSG& message) {
 }
 
 bool CFocusRing::OnSystemKey(const MSG& message) {
-    const bool system = message.message == WM_SYSKEYDOWN;
-    if (system) ShowMark();
-    const bool opens = system ? message.wParam == VK_DOWN || message.wParam == VK_UP : message.wParam == VK_F4;
+    if (IsForDialog(message.wParam)) ShowMark();
+    const bool opens = message.wParam == VK_DOWN || message.wParam == VK_UP;
     if (!opens || !m_focused || m_focused->FocusWindow()) return false;
     if (!IsRepeat(message)) m_focused->HandleKey(VK_F4);
     return true;
@@ -227,6 +248,11 @@ void CFocusRing::MoveTo(CSkinControl& control) {
         if (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) ::SendMessageW(window, EM_SETSEL, 0, -1);
     }
     m_dialog.OnFocusMoved(control);
+}
+
+void CFocusRing::MoveOnFrom(CSkinControl& control) {
+    Focus(&control);
+    Advance(IsDown(VK_SHIFT) ? -1 : 1);
 }
 
 void CFocusRing::Focus(CSkinControl* control) {

@@ -23,6 +23,8 @@ public:
     CSkinControl* Focused() const { return m_focused; }
     /// Gives a control the focus, as Tab does.
     void MoveTo(CSkinControl& control);
+    /// Moves the focus on from a control, as Tab does there.
+    void MoveOnFrom(CSkinControl& control);
     /// The system gave the focus to a window: when it is a control's, that is the focused one.
     void Adopt(HWND window);
     /// Whether the dialog's window keeps the system's focus when it comes there.

@@ -5,18 +5,19 @@
 namespace {
 
 std::atomic<bool> g_highContrast = false;
+std::atomic<bool> g_forced = false;
 
 }  // namespace
 
 bool IsHighContrast() { return g_highContrast.load(std::memory_order_relaxed); }
 
-void SetHighContrast(bool on) { g_highContrast = on; }
+void ForceHighContrast(bool on) { g_forced = on; }
 
 void UpdateContrast() {
     HIGHCONTRASTW setting{};
     setting.cbSize = sizeof(setting);
     const BOOL known = ::SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(setting), &setting, 0);
-    SetHighContrast(known && (setting.dwFlags & HCF_HIGHCONTRASTON) != 0);
+    g_highContrast = g_forced || (known && (setting.dwFlags & HCF_HIGHCONTRASTON) != 0);
 }
 
 COLORREF InkColor(COLORREF color) {

@@ -42,4 +42,5 @@ COLORREF GroundColor(COLORREF color);  ///< For what is stood on: the dialog, fa
 bool IsHighContrast();
 /// Looks at the system's setting, when a dialog opens and when the user changes it.
 void UpdateContrast();
-void SetHighContrast(bool on);
+/// As if the system's high contrast were on, from the next look at it on.
+void ForceHighContrast(bool on);

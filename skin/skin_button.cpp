@@ -41,6 +41,7 @@ void CSkinButton::PaintPicture(HDC dc, CSize size) const {
     if (!m_picture) return;
     const int width = static_cast<int>(m_picture->GetWidth()) / 4;
     const int height = static_cast<int>(m_picture->GetHeight());
+    if (width == 0 || height == 0) return;  // GDI+ could not tell them: what would be drawn must not be kept.
     const int frame = !IsEnabled() ? 3 : IsPressed() ? 2 : IsHovered() ? 1 : 0;
     const int shift = IsPressed() ? 1 : 0;
     const Gdiplus::Rect place((size.cx - width) / 2 + shift, (size.cy - height) / 2 + shift, width, height);

@@ -10,8 +10,9 @@ class CSkinControl;
 /// What a screen reader is told of a control.
 struct ControlFacts {
     LONG role = ROLE_SYSTEM_STATICTEXT;
-    LONG state = 0;  ///< Without what follows from the focus.
-    CString name;    ///< Empty for a control that its label names.
+    LONG state = 0;   ///< Without what follows from the focus.
+    CString name;     ///< Empty for a control that its label names.
+    CString caption;  ///< The name as far as it is drawn on the control.
     CString value;
     LPCWSTR action = nullptr;  ///< What Activate does; null where that is nothing.
 };
@@ -22,6 +23,8 @@ public:
     virtual void ControlDrawn(const CRect& area) = 0;
     /// @param event  EVENT_OBJECT_STATECHANGE or EVENT_OBJECT_VALUECHANGE.
     virtual void ControlChanged(CSkinControl& control, DWORD event) = 0;
+    /// Tab was pressed in a window that a control has opened: the focus goes on from the control.
+    virtual void LeaveControl(CSkinControl& control) = 0;
     /// The answer to WM_GETOBJECT of a control's own window; 0 leaves it to the system.
     virtual LRESULT ControlObject(CSkinControl& control, WPARAM wParam) = 0;
     /// What a screen reader calls a control.
@@ -54,6 +57,8 @@ public:
     virtual void Activate() {}
     /// What one of the keys that move does (arrows, Page Up and Down, Home, End, F4), and a notch of the wheel: an arrow.
     virtual void HandleKey(UINT /*key*/) {}
+    /// What a typed letter does; false where that is nothing.
+    virtual bool HandleLetter(wchar_t /*letter*/) { return false; }
     /// Controls of one group are one stop of Tab, and the arrows choose among them. Null for none.
     virtual const void* Group() const { return nullptr; }
     virtual ControlFacts Facts() const = 0;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "skin/apartment.h"
+#include "skin/kept_drawing.h"
 #include "skin/layered_window.h"
 #include "skin/skin_folder.h"
 
@@ -63,6 +64,8 @@ BEGIN_MESSAGE_MAP(CSkinDialog, CDialog)
     ON_MESSAGE(kRepairFocus, OnRepairFocus)
     ON_MESSAGE(WM_SETTEXT, OnSetText)
     ON_MESSAGE(WM_SETTINGCHANGE, OnSettingChange)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, OnColorsChange)
+    ON_MESSAGE(WM_THEMECHANGED, OnColorsChange)
     ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
@@ -306,7 +309,10 @@ void CSkinDialog::DragTo(CPoint point) {
 }
 
 void CSkinDialog::OnCaptureChanged(CWnd* other) {
-    m_dragging = false;
+    if (::GetCapture() != m_hWnd) {
+        m_dragging = false;
+        RelayMouseEvent(WM_CAPTURECHANGED, CPoint(-99, -99));
+    }
     CDialog::OnCaptureChanged(other);
 }
 
@@ -321,8 +327,8 @@ void CSkinDialog::OnLButtonDblClk(UINT flags, CPoint point) {
 }
 
 void CSkinDialog::OnLButtonUp(UINT flags, CPoint point) {
-    if (m_dragging) ::ReleaseCapture();
     RelayMouseEvent(WM_LBUTTONUP, point);
+    if (::GetCapture() == m_hWnd) ::ReleaseCapture();
     CDialog::OnLButtonUp(flags, point);
 }
 
@@ -401,14 +407,29 @@ LRESULT CSkinDialog::OnAskForObject(WPARAM wParam, LPARAM lParam) {
     return object ? object : Default();
 }
 
-LRESULT CSkinDialog::OnSettingChange(WPARAM, LPARAM) {
-    const bool before = IsHighContrast();
-    UpdateContrast();
-    if (IsHighContrast() != before) ShowContrast();
+LRESULT CSkinDialog::OnSettingChange(WPARAM action, LPARAM) {
+    switch (action) {
+        case SPI_SETHIGHCONTRAST:
+        case SPI_SETFONTSMOOTHING:
+        case SPI_SETFONTSMOOTHINGTYPE:
+        case SPI_SETFONTSMOOTHINGCONTRAST:
+        case SPI_SETFONTSMOOTHINGORIENTATION:
+            DrawAnew();
+            break;
+        default:
+            break;
+    }
     return Default();
 }
 
-void CSkinDialog::ShowContrast() {
+LRESULT CSkinDialog::OnColorsChange(WPARAM, LPARAM) {
+    DrawAnew();
+    return Default();
+}
+
+void CSkinDialog::DrawAnew() {
+    UpdateContrast();
+    ReleaseKeptDrawings();
     CreateBackground();
-    RedrawWindow(nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    RedrawWindow(nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

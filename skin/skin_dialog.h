@@ -45,6 +45,7 @@ public:
 
     void ControlDrawn(const CRect& area) override { m_focus.DrawMark(area); }
     void ControlChanged(CSkinControl& control, DWORD event) override;
+    void LeaveControl(CSkinControl& control) override { m_focus.MoveOnFrom(control); }
     LRESULT ControlObject(CSkinControl& control, WPARAM wParam) override {
         return m_accessibility.ObjectFor(&control, wParam);
     }
@@ -54,8 +55,6 @@ public:
 
     INT_PTR DoModal() override;
     BOOL PreTranslateMessage(MSG* message) override;
-    /// Draws all anew, after the contrast has changed.
-    void ShowContrast();
 
 protected:
     // Both create controls once the window exists; a false makes the dialog's creation fail.
@@ -63,7 +62,6 @@ protected:
     virtual bool CreateControls() { return true; }  ///< What the one dialog adds.
     /// Places the controls at every change of the size: those that were added with a place, and the frame's own.
     virtual void LayoutControls();
-    virtual void SetSkinBackground(HDC background);
     /// Draws the controls that touch an area.
     virtual void PaintControls(const CRect& area);
     virtual void RelayMouseEvent(UINT message, CPoint point);
@@ -100,7 +98,8 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* other);
     afx_msg LRESULT OnRepairFocus(WPARAM, LPARAM);
     afx_msg LRESULT OnSetText(WPARAM, LPARAM);
-    afx_msg LRESULT OnSettingChange(WPARAM, LPARAM);
+    afx_msg LRESULT OnSettingChange(WPARAM action, LPARAM);
+    afx_msg LRESULT OnColorsChange(WPARAM, LPARAM);
     afx_msg LRESULT OnAskForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -109,7 +108,9 @@ protected:
     CSkinButton m_okButton;
 
 private:
+    void SetSkinBackground(HDC background);
     void CreateBackground();
+    void DrawAnew();
     void DrawTitle(HDC dc);
     void Press(CPoint point);
     bool IsEmptyAt(CPoint point) const;

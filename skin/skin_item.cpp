@@ -30,17 +30,16 @@ void CSkinItem::SetText(LPCWSTR text) {
 
 void CSkinItem::SetEnabled(bool enabled) {
     if (enabled == m_enabled) return;
+    ForgetMouse();
     m_enabled = enabled;
-    m_state = State::Normal;
-    HideTip();
     Draw();
     Changed(EVENT_OBJECT_STATECHANGE);
 }
 
 void CSkinItem::SetVisible(bool visible) {
     if (visible == m_visible) return;
+    ForgetMouse();
     m_visible = visible;
-    HideTip();
     if (::IsWindow(m_parent)) ::InvalidateRect(m_parent, m_rect, TRUE);
     Changed(EVENT_OBJECT_STATECHANGE);
 }
@@ -68,6 +67,7 @@ void CSkinItem::Draw() {
 ControlFacts CSkinItem::Facts() const {
     ControlFacts facts;
     facts.name = m_text;
+    facts.caption = m_text;
     if (!m_enabled) facts.state |= STATE_SYSTEM_UNAVAILABLE;
     if (!m_visible || m_rect.IsRectEmpty()) facts.state |= STATE_SYSTEM_INVISIBLE;
     return facts;
@@ -82,7 +82,6 @@ void CSkinItem::SetState(State state) {
     if (state == m_state) return;
     m_state = state;
     HideTip();
-    OnStateChanged();
     Draw();
 }
 
@@ -132,6 +131,10 @@ void CSkinItem::HandleMouse(UINT message, CPoint point) {
         case WM_LBUTTONUP:
             OnButtonUp(point);
             break;
+        case WM_CAPTURECHANGED:
+            g_buttonHeld = false;
+            if (m_state == State::Pressed) SetState(State::Normal);
+            return;
         default:
             return;
     }
@@ -154,10 +157,17 @@ void CSkinItem::OnMouseMove(CPoint point) {
     SetState(State::Normal);
 }
 
+void CSkinItem::ForgetMouse() {
+    // A press ends here, and the dialog must not keep the capture for it.
+    if (m_state == State::Pressed && ParentHasCapture()) ::ReleaseCapture();
+    m_state = State::Normal;
+    HideTip();
+}
+
 void CSkinItem::OnButtonDown(CPoint point) {
     const bool inside = m_rect.PtInRect(point) != FALSE;
     g_buttonHeld = true;
-    OnPress(inside);
+    OnPress(point);
     if (!inside) return;
     SetState(State::Pressed);
     ::SetCapture(m_parent);
@@ -165,7 +175,6 @@ void CSkinItem::OnButtonDown(CPoint point) {
 
 void CSkinItem::OnButtonUp(CPoint point) {
     const bool wasPressed = m_state == State::Pressed;
-    if (wasPressed && ParentHasCapture()) ::ReleaseCapture();
     g_buttonHeld = false;
     if (!m_rect.PtInRect(point)) {
         SetState(State::Normal);

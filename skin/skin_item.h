@@ -52,9 +52,8 @@ public:
 protected:
     enum class State { Normal, Hover, Pressed };
 
-    virtual void OnClick() {}  ///< A press and a release both fell on the item; the command follows.
-    virtual void OnPress(bool /*inside*/) {}
-    virtual void OnStateChanged() {}
+    virtual void OnClick() {}                  ///< A press and a release both fell on the item; the command follows.
+    virtual void OnPress(CPoint /*point*/) {}  ///< A press anywhere on the dialog.
     virtual bool PostsCommand() const { return true; }
     /// Draws the item off screen; the background is there already.
     virtual void Paint(HDC dc, CSize size) = 0;
@@ -71,6 +70,7 @@ private:
     void OnMouseMove(CPoint point);
     void OnButtonDown(CPoint point);
     void OnButtonUp(CPoint point);
+    void ForgetMouse();
     void ShowTip();
     void HideTip();
     bool ParentHasCapture() const { return ::GetCapture() == m_parent; }

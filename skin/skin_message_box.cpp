@@ -25,6 +25,24 @@ BEGIN_MESSAGE_MAP(CMessageText, CRichEditCtrl)
     ON_MESSAGE(WM_GETOBJECT, OnAskForObject)
 END_MESSAGE_MAP()
 
+void CMessageText::SetBackground(HDC background) {
+    if (background) SetColors();
+}
+
+void CMessageText::ShowText(LPCWSTR text) {
+    SetWindowText(text);
+    SetColors();
+}
+
+void CMessageText::SetColors() {
+    SendMessage(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GroundColor(kBackgroundColor)));
+    CHARFORMATW format{};
+    format.cbSize = sizeof(format);
+    format.dwMask = CFM_COLOR;
+    format.crTextColor = InkColor(kTextColor);
+    SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+}
+
 void CMessageText::ClickAtStart() {
     m_clicking = true;
     SendMessage(kStartMessage);
@@ -80,7 +98,6 @@ bool CSkinMessageBox::CreateControls() {
     }
     AddControl(m_text);
     m_text.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(ItemFont()), FALSE);
-    m_text.SendMessage(EM_SETBKGNDCOLOR, FALSE, static_cast<LPARAM>(GroundColor(kBackgroundColor)));
     const bool asks = m_buttons == MessageButtons::YesNo;
     m_cancelButton.SetVisible(false);
     m_okButton.SetVisible(m_buttons == MessageButtons::Answer);
@@ -112,12 +129,7 @@ BOOL CSkinMessageBox::OnOpening() {
     m_text.GetClientRect(textArea);
     textArea.DeflateRect(kTextMargin, kTextMargin);
     m_text.SendMessage(EM_SETRECT, 0, reinterpret_cast<LPARAM>(&textArea));
-    CHARFORMATW format{};
-    format.cbSize = sizeof(format);
-    format.dwMask = CFM_COLOR;
-    format.crTextColor = InkColor(kTextColor);
-    m_text.SetWindowText(m_message);
-    m_text.SendMessage(EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+    m_text.ShowText(m_message);
     m_text.ClickAtStart();
     return TRUE;
 }

@@ -13,7 +13,8 @@ class CMessageText : public CGuarded<CRichEditCtrl>, public CSkinControl {
 public:
     /// Posts a press and a release at the text's start, so that it begins without a selection.
     void ClickAtStart();
-    void SetBackground(HDC) override {}
+    void SetBackground(HDC background) override;
+    void ShowText(LPCWSTR text);
     CRect Bounds() const override;
     void SetBounds(const CRect& bounds) override { MoveWindow(bounds); }
     bool TakesFocus() const override { return true; }
@@ -28,6 +29,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void SetColors();
+
     bool m_clicking = false;  // Until the posted release has come.
 };
 

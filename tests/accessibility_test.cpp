@@ -8,8 +8,9 @@
 
 #include <afxwin.h>
 
-#include "area_dialog_rows.h"
-#include "plain_dialog_rows.h"
+#include "all_dialog_rows.h"
+#include "skin/kept_drawing.h"
+#include "skin/off_screen.h"
 #include "skin/skin_check_box.h"
 #include "skin/skin_message_box.h"
 #include "skin/skin_radio_button.h"
@@ -83,9 +84,7 @@ long Find(const AccessibleClient& client, const std::wstring& name) {
 
 TEST(Accessibility, EveryControlOfEveryDialogSaysWhatItIs) {
     const Apartment apartment(COINIT_APARTMENTTHREADED);
-    std::vector<DialogRow> rows = PlainDialogRows();
-    for (DialogRow& row : AreaDialogRows()) rows.push_back(std::move(row));
-    for (const DialogRow& row : rows) {
+    for (const DialogRow& row : AllDialogRows()) {
         Session session(row.effect.id, row.openings.front().record);
         session.Run([&](DialogDriver& dialog) {
             SCOPED_TRACE(row.effect.name);
@@ -419,6 +418,80 @@ double Luminance(COLORREF color) {
     return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
 }
 
+/// Whether most of a place is in the ground's colour, and more than a caret in it stands out from that.
+void ExpectReadable(const DialogDriver& driver, const CRect& place, COLORREF ground, const char* what,
+                    HWND window = nullptr) {
+    const double groundLight = Luminance(ground) + 0.05;
+    std::map<COLORREF, int> colors;
+    int readable = 0;
+    for (int y = place.top; y < place.bottom; ++y) {
+        for (int x = place.left; x < place.right; ++x) {
+            const COLORREF color = driver.Pixel(x, y, window);
+            ++colors[color];
+            const double light = Luminance(color) + 0.05;
+            readable += (std::max)(light / groundLight, groundLight / light) >= 4.5;
+        }
+    }
+    const auto most = std::max_element(
+        colors.begin(), colors.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+    EXPECT_EQ(most->first, ground) << what;
+    EXPECT_GE(readable, 30) << what;
+}
+
+/// As if the user had switched high contrast, of which the system tells the open dialogs.
+void SwitchContrast(bool on, std::initializer_list<const DialogDriver*> dialogs, UINT message = WM_SETTINGCHANGE,
+                    WPARAM action = SPI_SETHIGHCONTRAST) {
+    ForceHighContrast(on);
+    for (const DialogDriver* dialog : dialogs) {
+        ::SendMessageW(dialog->Window(), message, action, 0);
+        dialog->Settle();
+    }
+}
+
+TEST(HighContrast, EveryOpenDialogShowsEachChangeOfTheSystemsLook) {
+    const struct {
+        const char* name;
+        UINT message;
+        WPARAM action;
+        bool concerns;
+    } rows[] = {{"high contrast", WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST, true},
+                {"font smoothing", WM_SETTINGCHANGE, SPI_SETFONTSMOOTHING, true},
+                {"kind of font smoothing", WM_SETTINGCHANGE, SPI_SETFONTSMOOTHINGTYPE, true},
+                {"contrast of font smoothing", WM_SETTINGCHANGE, SPI_SETFONTSMOOTHINGCONTRAST, true},
+                {"colours", WM_SYSCOLORCHANGE, 0, true},
+                {"theme", WM_THEMECHANGED, 0, true},
+                {"work area", WM_SETTINGCHANGE, SPI_SETWORKAREA, false}};
+    COffScreen surface;
+    ASSERT_TRUE(surface.Fit(CSize(9, 9)));
+    const auto isKept = [&] {
+        bool drawn = false;
+        DrawKept(surface.Dc(), CRect(0, 0, 9, 9), L"nothing", [&](Gdiplus::Graphics&) { drawn = true; });
+        return !drawn;
+    };
+    CKitDialog lower([](CKitDialog&) {});
+    lower.Run([&](DialogDriver& driver) {
+        std::function<void()> open = [] { CSkinMessageBox(L"Error!", L"Not so.").DoModal(); };
+        lower.Start(open);
+        const DialogDriver box(DialogDriver::WaitForDialog(driver.Window()));
+        box.Settle();
+        const HWND text = box.Child(99);
+        const CRect textPlace(0, 0, 100, 40);
+        const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.name);
+            isKept();
+            SwitchContrast(true, {&driver, &box}, row.message, row.action);
+            EXPECT_EQ(isKept(), !row.concerns) << "drawings";
+            EXPECT_EQ(driver.Pixel(200, 200) == ground, row.concerns) << "the lower dialog";
+            EXPECT_EQ(box.Pixel(200, 140) == ground, row.concerns) << "the message box";
+            if (row.concerns) ExpectReadable(box, textPlace, ground, "its text", text);
+            SwitchContrast(false, {&driver, &box});
+            ExpectReadable(box, textPlace, RGB(20, 20, 20), "its text, off again", text);
+        }
+        DialogDriver(box.Window()).Command(IDOK);
+    });
+}
+
 TEST(HighContrast, TextAndMarksStandOutFromTheSystemsGround) {
     CSkinButton button;
     CSkinCheckBox box;
@@ -444,35 +517,15 @@ TEST(HighContrast, TextAndMarksStandOutFromTheSystemsGround) {
     dialog.Run([&](DialogDriver& driver) {
         const RECT client = driver.ClientRect();
         const unsigned long before = driver.PixelSum(client);
-        const auto show = [&](bool contrast) {
-            dialog.Do([&] {
-                SetHighContrast(contrast);
-                dialog.ShowContrast();
-            });
-            driver.Settle();
-        };
-        show(true);
-        std::vector<CRect> looked(std::begin(places), std::end(places));
-        looked.emplace_back(5, 5, 100, 30);  // The title.
+        SwitchContrast(true, {&driver});
         const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
-        const double groundLight = Luminance(ground) + 0.05;
-        for (const CRect& place : looked) {
-            std::map<COLORREF, int> colors;
-            double best = 1;
-            for (int y = place.top; y < place.bottom; ++y) {
-                for (int x = place.left; x < place.right; ++x) {
-                    const COLORREF color = driver.Pixel(x, y);
-                    ++colors[color];
-                    const double light = Luminance(color) + 0.05;
-                    best = (std::max)(best, (std::max)(light / groundLight, groundLight / light));
-                }
-            }
-            const auto most = std::max_element(
-                colors.begin(), colors.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
-            EXPECT_EQ(most->first, ground) << place.top;
-            EXPECT_GE(best, 4.5) << place.top;
+        ExpectReadable(driver, CRect(5, 5, 100, 30), ground, "title");
+        const char* const names[] = {"button", "check box", "radio button", "label", "drop-down list", "slider"};
+        for (std::size_t index = 0; index < std::size(places); ++index) {
+            ExpectReadable(driver, places[index], ground, names[index]);
         }
-        show(false);
+        EXPECT_EQ(driver.Pixel(51, 149), ::GetSysColor(COLOR_WINDOWTEXT)) << "radio button's ring";
+        SwitchContrast(false, {&driver});
         EXPECT_EQ(driver.PixelSum(client), before) << "off, nothing has changed";
     });
 }

@@ -1,4 +1,4 @@
-// The rows of all dialogs.
+// What all dialogs send and save, as data.
 #pragma once
 
 #include "area_dialog_rows.h"

@@ -168,12 +168,7 @@ TEST(DialogFrame, TheTitleBarDragsTheWindowButNotBesideItsRightEnd) {
             ::SendInput(1, &input, sizeof(input));
         };
         const auto waitForDragging = [&](bool dragging) {
-            return DialogDriver::WaitFor([&] {
-                GUITHREADINFO info{};
-                info.cbSize = sizeof(info);
-                ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
-                return ((info.flags & GUI_INMOVESIZE) != 0) == dragging;
-            });
+            return DialogDriver::WaitFor([&] { return ((dialog.Thread().flags & GUI_INMOVESIZE) != 0) == dragging; });
         };
         send(MOUSEEVENTF_LEFTDOWN);
         ASSERT_TRUE(waitForDragging(true));

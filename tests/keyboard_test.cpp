@@ -6,30 +6,17 @@
 
 #include <afxwin.h>
 
-#include "area_dialog_rows.h"
-#include "plain_dialog_rows.h"
+#include "all_dialog_rows.h"
 #include "skin/skin_button.h"
+#include "skin/skin_check_box.h"
 #include "support/accessible_client.h"
 #include "support/dialog_session.h"
 #include "support/kit_dialog.h"
 
 namespace {
 
-std::vector<DialogRow> AllRows() {
-    std::vector<DialogRow> rows = PlainDialogRows();
-    for (DialogRow& row : AreaDialogRows()) rows.push_back(std::move(row));
-    return rows;
-}
-
-HWND FocusOf(const DialogDriver& dialog) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
-    return info.hwndFocus ? info.hwndFocus : dialog.Window();
-}
-
 void Post(const DialogDriver& dialog, UINT message, WPARAM key, LPARAM details = 1) {
-    ::PostMessageW(FocusOf(dialog), message, key, details);
+    ::PostMessageW(dialog.Focus(), message, key, details);
     dialog.Settle();
     dialog.Settle();
 }
@@ -125,7 +112,7 @@ void WorkByMouse(DialogDriver& dialog, Session& session, const Stop& stop, std::
         case ROLE_SYSTEM_COMBOBOX:
             for (int pick = 0; pick < 2; ++pick) {
                 dialog.Click(middle);
-                const HWND list = FocusOf(dialog);
+                const HWND list = dialog.Focus();
                 const LRESULT other = 1 - ::SendMessageW(list, LB_GETCURSEL, 0, 0);
                 dialog.Release({20, static_cast<LONG>(18 * other + 9)}, list);
                 pushes.push_back(session.Pushes());
@@ -164,7 +151,7 @@ std::vector<Stop> GoRound(const DialogDriver& dialog, const AccessibleClient& cl
 
 TEST(Keyboard, WorksEveryControlOfEveryDialogAsTheMouseDoes) {
     const Apartment apartment(COINIT_APARTMENTTHREADED);
-    for (const DialogRow& row : AllRows()) {
+    for (const DialogRow& row : AllDialogRows()) {
         SCOPED_TRACE(row.effect.name);
         std::vector<Stop> stops;
         Session byKeys(row.effect.id, row.openings.front().record);
@@ -228,7 +215,7 @@ TEST(Keyboard, WorksEveryControlOfEveryDialogAsTheMouseDoes) {
 
 TEST(Keyboard, SetsEveryValueOfEverySlider) {
     const Apartment apartment(COINIT_APARTMENTTHREADED);
-    for (const DialogRow& row : AllRows()) {
+    for (const DialogRow& row : AllDialogRows()) {
         if (row.controls.sliders.empty()) continue;
         SCOPED_TRACE(row.effect.name);
         Session session(row.effect.id, row.openings.front().record);
@@ -258,7 +245,7 @@ TEST(Keyboard, SetsEveryValueOfEverySlider) {
                 Press(dialog, VK_RIGHT);
                 std::set<std::string> pushes{session.Pushes()};
                 for (int value = lowest + 2; value <= highest; ++value) {
-                    ::PostMessageW(FocusOf(dialog), WM_KEYDOWN, VK_RIGHT, 1);
+                    ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_RIGHT, 1);
                     dialog.Settle();
                     pushes.insert(session.Pushes());
                 }
@@ -287,7 +274,11 @@ TEST(Keyboard, TheMarkComesWithTheFirstKeyAndHelpFollowsTheFocus) {
         dialog.Move({300, 380});
         dialog.Click(kOnEnable);
         dialog.Move({300, 380});
-        EXPECT_NE(dialog.Pixel(8, 293), kAccent) << "the mouse alone";
+        for (const WPARAM key : {VK_SHIFT, VK_CONTROL, VK_CAPITAL, VK_NUMLOCK, VK_SCROLL, VK_LWIN, VK_RWIN,
+                                 VK_VOLUME_MUTE, VK_MEDIA_NEXT_TRACK}) {
+            Press(dialog, key);
+            EXPECT_NE(dialog.Pixel(8, 293), kAccent) << "the mouse, and a key that works no dialog: " << key;
+        }
         const unsigned long before = dialog.PixelSum(enable);
         Press(dialog, VK_TAB);
         EXPECT_TRUE(marked({18, 348, 452, 372})) << "after the pressed one comes the slider";
@@ -310,7 +301,7 @@ TEST(Keyboard, KeysReachWhatTheyAreMeantFor) {
     Session session(EffectId::Mosaic, {1, 48, 1, 10, 20, 301, 401});
     session.Run([&](DialogDriver& dialog) {
         const HWND left = dialog.Child(17);
-        EXPECT_EQ(FocusOf(dialog), left);
+        EXPECT_EQ(dialog.Focus(), left);
         Strike(dialog, {VK_HOME});
         Strike(dialog, {VK_CONTROL, 'A'});
         DWORD start = 9;
@@ -332,10 +323,37 @@ TEST(Keyboard, KeysReachWhatTheyAreMeantFor) {
         EXPECT_NE(session.Pushes(), "") << "Set as default";
         Strike(dialog, {VK_RETURN});
         EXPECT_TRUE(dialog.IsOpen()) << "Enter presses the focused button";
-        Strike(dialog, {VK_ESCAPE});
-        EXPECT_FALSE(dialog.IsOpen());
+        Post(dialog, WM_SYSCHAR, L'c', 0x20000001);
+        EXPECT_FALSE(dialog.IsOpen()) << "Alt+C is Cancel: the close button's name is not written on it";
     });
     EXPECT_EQ(session.result, 2);
+}
+
+TEST(Keyboard, ADisabledControlPassesTheFocusOnAndIsNotPressed) {
+    CSkinCheckBox boxes[3];
+    CKitDialog dialog([&](CKitDialog& parent) {
+        for (int index = 0; index < 3; ++index) {
+            const LPCWSTR names[] = {L"First", L"Disabled", L"Next"};
+            Put(parent, boxes[index], names[index], CRect(50, 100 + 50 * index, 150, 120 + 50 * index), 77);
+        }
+    });
+    const auto checked = [&] {
+        std::string all;
+        for (const CSkinCheckBox& box : boxes) all += box.IsChecked() ? 'x' : '-';
+        return all;
+    };
+    dialog.Run([&](DialogDriver& driver) {
+        Press(driver, VK_TAB);
+        Press(driver, VK_TAB);
+        Press(driver, VK_SPACE);
+        EXPECT_EQ(checked(), "-x-") << "by Space";
+        dialog.Do([&] { boxes[1].SetEnabled(false); });
+        driver.Settle();
+        Press(driver, VK_SPACE);
+        EXPECT_EQ(checked(), "-xx") << "Space, after the focused box was disabled";
+        Post(driver, WM_SYSCHAR, L'd', 0x20000001);
+        EXPECT_EQ(checked(), "-xx") << "Alt and the letter of a disabled box";
+    });
 }
 
 TEST(Keyboard, AHeldKeyStopsWithItsRelease) {
@@ -345,8 +363,8 @@ TEST(Keyboard, AHeldKeyStopsWithItsRelease) {
         Press(dialog, VK_TAB);
         session.Pushes();
         constexpr LPARAM kRepeated = 0x40000001;
-        ::PostMessageW(FocusOf(dialog), WM_KEYDOWN, VK_RIGHT, 1);
-        for (int repeat = 0; repeat < 20; ++repeat) ::PostMessageW(FocusOf(dialog), WM_KEYDOWN, VK_RIGHT, kRepeated);
+        ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_RIGHT, 1);
+        for (int repeat = 0; repeat < 20; ++repeat) ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_RIGHT, kRepeated);
         dialog.Settle();
         EXPECT_EQ(session.Pushes(), "SetGammaParams(101, 1, 0, 0)") << "nobody holds it any more";
         Press(dialog, VK_RIGHT);
@@ -376,6 +394,10 @@ TEST(Keyboard, TheWheelMovesOnlyTheFocusedSliderUnderThePointer) {
         EXPECT_EQ(turn(-WHEEL_DELTA), "SetGammaParams(100, 1, 0, 0)");
         EXPECT_EQ(turn(WHEEL_DELTA / 2), "");
         EXPECT_EQ(turn(WHEEL_DELTA / 2), "SetGammaParams(101, 1, 0, 0)") << "two halves of a notch";
+        EXPECT_EQ(turn(WHEEL_DELTA / 2), "");
+        Press(dialog, VK_TAB);
+        Strike(dialog, {VK_SHIFT, VK_TAB});
+        EXPECT_EQ(turn(WHEEL_DELTA / 2), "") << "two halves, between which the focus was elsewhere";
         dialog.PointAt({200, 400});
         EXPECT_EQ(turn(WHEEL_DELTA), "") << "beside it";
         dialog.PointAt({-50, -50});

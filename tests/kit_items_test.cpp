@@ -59,15 +59,15 @@ struct Items {
 
 TEST(KitItems, AClickIsAPressAndAReleaseOnTheSameItem) {
     struct Step {
-        enum { Press, DoublePress, Move, Release } what;
-        POINT at;
+        enum { Press, DoublePress, Move, Release, LoseCapture, Disable, Hide } what;
+        POINT at{};
     };
     const struct {
         const char* name;
         std::vector<Step> steps;
         Ids commands;
-        bool aChecked;
-        bool bChecked;
+        bool aChecked = false;
+        bool bChecked = false;
     } rows[] = {
         {"click", {{Step::Press, kOnA}, {Step::Release, kOnA}}, {201}, true, false},
         {"two fast clicks",
@@ -75,34 +75,51 @@ TEST(KitItems, AClickIsAPressAndAReleaseOnTheSameItem) {
          {201, 201},
          false,
          false},
-        {"release on another", {{Step::Press, kOnA}, {Step::Move, kOnB}, {Step::Release, kOnB}}, {}, false, false},
-        {"release outside", {{Step::Press, kOnA}, {Step::Move, kNowhere}, {Step::Release, kNowhere}}, {}, false, false},
+        {"release on another", {{Step::Press, kOnA}, {Step::Move, kOnB}, {Step::Release, kOnB}}, {}},
+        {"release outside", {{Step::Press, kOnA}, {Step::Move, kNowhere}, {Step::Release, kNowhere}}, {}},
         {"out and back",
          {{Step::Press, kOnA}, {Step::Move, kNowhere}, {Step::Move, kOnA}, {Step::Release, kOnA}},
          {201},
          true,
          false},
-        {"press outside, release on it", {{Step::Press, kNowhere}, {Step::Release, kOnA}}, {}, false, false},
+        {"press outside, release on it", {{Step::Press, kNowhere}, {Step::Release, kOnA}}, {}},
         {"a selected radio button stays selected, and tells",
          {{Step::Press, kOnB}, {Step::Release, kOnB}, {Step::Press, kOnB}, {Step::Release, kOnB}},
          {202, 202},
          false,
          true},
-        {"disabled", {{Step::Press, kOnDisabled}, {Step::Release, kOnDisabled}}, {}, false, false},
-        {"hidden", {{Step::Press, kOnHidden}, {Step::Release, kOnHidden}}, {}, false, false},
+        {"another window takes the capture", {{Step::Press, kOnA}, {Step::LoseCapture}, {Step::Release, kOnA}}, {}},
+        {"disabled while pressed", {{Step::Press, kOnA}, {Step::Disable}, {Step::Release, kOnA}}, {}},
+        {"disabled while hovered", {{Step::Move, kOnA}, {Step::Disable}}, {}},
+        {"hidden while pressed", {{Step::Press, kOnA}, {Step::Hide}, {Step::Release, kOnA}}, {}},
+        {"hidden while hovered", {{Step::Move, kOnA}, {Step::Hide}}, {}},
+        {"disabled", {{Step::Press, kOnDisabled}, {Step::Release, kOnDisabled}}, {}},
+        {"hidden", {{Step::Press, kOnHidden}, {Step::Release, kOnHidden}}, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         Items items;
         items.dialog.Run([&](DialogDriver& driver) {
+            SCOPED_TRACE(row.name);
             for (const Step& step : row.steps) {
                 if (step.what == Step::Press) driver.Press(step.at);
                 if (step.what == Step::DoublePress) driver.DoublePress(step.at);
                 if (step.what == Step::Move) driver.Move(step.at, nullptr, MK_LBUTTON);
                 if (step.what == Step::Release) driver.Release(step.at);
+                if (step.what < Step::LoseCapture) continue;
+                // A disabled or hidden item comes back at once.
+                items.dialog.Do([&] {
+                    if (step.what == Step::LoseCapture) ::ReleaseCapture();
+                    for (const bool back : {false, true}) {
+                        if (step.what == Step::Disable) items.a.SetEnabled(back);
+                        if (step.what == Step::Hide) items.a.SetVisible(back);
+                    }
+                });
+                EXPECT_FALSE(items.a.Pressed() || items.a.Hovered());
+                EXPECT_EQ(driver.Thread().hwndCapture, nullptr);
             }
             EXPECT_EQ(items.dialog.commands, row.commands);
-            EXPECT_EQ(::GetCapture(), nullptr);
+            EXPECT_EQ(driver.Thread().hwndCapture, nullptr);
         });
         EXPECT_EQ(items.a.IsChecked(), row.aChecked);
         EXPECT_EQ(items.b.IsChecked(), row.bChecked);
@@ -134,9 +151,11 @@ TEST(KitItems, TheHoverFollowsThePointerAndPaintsOncePerChange) {
         EXPECT_TRUE(driver.PointUntil(kOnB, [&] { return items.b.Hovered() && !items.a.Hovered(); }));
         EXPECT_TRUE(driver.PointUntil(kOnDisabled, [&] { return !items.b.Hovered(); }));
         EXPECT_FALSE(items.disabled.Hovered());
-        EXPECT_TRUE(driver.PointUntil(kOnA, [&] { return items.a.Hovered(); }));
-        ::SetCursorPos(1270, 1015);
-        EXPECT_TRUE(DialogDriver::WaitFor([&] { return !items.a.Hovered(); })) << "leaving the window";
+        for (const char* const time : {"first", "second"}) {
+            EXPECT_TRUE(driver.PointUntil(kOnA, [&] { return items.a.Hovered(); }));
+            ::SetCursorPos(1270, 1015);
+            EXPECT_TRUE(DialogDriver::WaitFor([&] { return !items.a.Hovered(); })) << time << " leaving of the window";
+        }
     });
 }
 

@@ -20,13 +20,6 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
-HWND FocusOf(HWND window) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
-    return info.hwndFocus;
-}
-
 // --- edits ---
 
 struct Edits {
@@ -75,9 +68,13 @@ TEST(Edit, BothHalvesActTogether) {
             edits.first.SetEnabled(true);
         });
         EXPECT_TRUE(DialogDriver::WaitFor([&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }));
-        EXPECT_TRUE(driver.PointUntil({100, 110}, [&] { return driver.Pixel(100, 100) == RGB(90, 90, 90); }))
-            << "the outline follows the pointer over the edit window";
-        EXPECT_TRUE(driver.PointUntil({300, 300}, [&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }));
+        for (const char* const time : {"first", "second"}) {
+            EXPECT_TRUE(driver.PointUntil({100, 110}, [&] { return driver.Pixel(100, 100) == RGB(90, 90, 90); }))
+                << "the outline follows the pointer over the edit window";
+            ::SetCursorPos(1270, 1015);
+            EXPECT_TRUE(DialogDriver::WaitFor([&] { return driver.Pixel(100, 100) == RGB(180, 180, 180); }))
+                << time << " leaving of the edit window";
+        }
     });
 }
 
@@ -127,7 +124,7 @@ TEST(DropDownList, OpensBelowWithTheShownRowHighlighted) {
         ::MapWindowPoints(nullptr, driver.Window(), reinterpret_cast<POINT*>(&place), 2);
         EXPECT_TRUE(CRect(place) == CRect(50, 121, 150, 121 + 4 * kRowHeight + 2));
         EXPECT_EQ(::SendMessageW(box.List(), LB_GETCURSEL, 0, 0), 2) << "the case counts, and the first of two alike";
-        EXPECT_EQ(FocusOf(driver.Window()), box.List());
+        EXPECT_EQ(driver.Focus(), box.List());
         BYTE alpha = 0;
         ::GetLayeredWindowAttributes(box.Popup(), nullptr, &alpha, nullptr);
         EXPECT_EQ(alpha, 250);
@@ -139,44 +136,70 @@ TEST(DropDownList, OpensBelowWithTheShownRowHighlighted) {
 }
 
 TEST(DropDownList, PicksByReleaseAndByKeysOnly) {
-    enum Way { Release, MoveOnly, Enter, ArrowEnter, ArrowEscape };
+    struct Step {
+        UINT message;
+        WPARAM key = 0;
+        LPARAM details = 1;
+    };
+    constexpr LPARAM kOnThree = MAKELPARAM(20, 2 * kRowHeight + 5);
+    constexpr Step kMove{WM_MOUSEMOVE, 0, kOnThree};
+    constexpr Step kDown{WM_KEYDOWN, VK_DOWN};
+    constexpr Step kT{WM_CHAR, L't'};
     const struct {
         const char* name;
-        Way way;
+        bool opened;
+        std::vector<Step> steps;
         int index;
         std::size_t picks;
-        bool open;
-    } rows[] = {{"release on a row", Release, 2, 1, false},
-                {"a highlight is no pick", MoveOnly, 0, 0, true},
-                {"Enter", Enter, 0, 1, false},
-                {"arrow and Enter", ArrowEnter, 1, 1, false},
-                {"arrow and Esc", ArrowEscape, 0, 0, false}};
+        bool open = false;
+        bool movesOn = false;
+    } rows[] = {
+        {"release on a row", true, {kMove, {WM_LBUTTONUP, 0, kOnThree}}, 2, 1},
+        {"a highlight is no pick", true, {kMove}, 0, 0, true},
+        {"Enter", true, {{WM_KEYDOWN, VK_RETURN}}, 0, 1},
+        {"arrow and Enter", true, {kDown, {WM_KEYDOWN, VK_RETURN}}, 1, 1},
+        {"arrow and F4", true, {kDown, {WM_KEYDOWN, VK_F4}}, 1, 1},
+        {"arrow and Alt+Up", true, {kDown, {WM_SYSKEYDOWN, VK_UP}}, 1, 1},
+        {"arrow and Alt+Down", true, {kDown, {WM_SYSKEYDOWN, VK_DOWN}}, 1, 1},
+        {"F4 still held", true, {{WM_KEYDOWN, VK_F4, 0x40000001}}, 0, 0, true},
+        {"Alt+Down still held", true, {{WM_SYSKEYDOWN, VK_DOWN, 0x40000001}}, 0, 0, true},
+        {"arrow and Tab", true, {kDown, {WM_KEYDOWN, VK_TAB}}, 1, 1, false, true},
+        {"arrow and Esc", true, {kDown, {WM_KEYDOWN, VK_ESCAPE}}, 0, 0},
+        {"letter and Enter", true, {kT, {WM_KEYDOWN, VK_RETURN}}, 1, 1},
+        {"letter three times and Enter", true, {kT, kT, kT, {WM_KEYDOWN, VK_RETURN}}, 1, 1},
+        {"closed, letter", false, {kT}, 1, 1},
+        {"closed, letter three times", false, {kT, kT, kT}, 1, 3},
+        {"closed, letter of no other row", false, {{WM_CHAR, L'o'}, {WM_CHAR, L'x'}}, 0, 0},
+    };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
         Combo box({L"One", L"Two", L"Three"});
         box.dialog.Run([&](DialogDriver& driver) {
+            SCOPED_TRACE(row.name);
             box.dialog.Do([&] { box.combo.SetCurrentIndex(0); });
-            driver.Click(kOnCombo);
-            const HWND list = box.List();
-            const auto key = [&](WPARAM which) {
-                ::PostMessageW(list, WM_KEYDOWN, which, 1);
-                driver.Settle();
-            };
-            if (row.way == Release || row.way == MoveOnly) driver.Move({20, 2 * kRowHeight + 5}, list);
-            if (row.way == MoveOnly) {
-                EXPECT_EQ(::SendMessageW(list, LB_GETCURSEL, 0, 0), 2);
+            if (row.opened) {
+                driver.Click(kOnCombo);
+            } else {
+                driver.Key(VK_TAB);
             }
-            if (row.way == Release) driver.Release({20, 2 * kRowHeight + 5}, list);
-            if (row.way == ArrowEnter || row.way == ArrowEscape) key(VK_DOWN);
-            if (row.way == Enter || row.way == ArrowEnter) key(VK_RETURN);
-            if (row.way == ArrowEscape) key(VK_ESCAPE);
+            for (const Step& step : row.steps) {
+                ::PostMessageW(driver.Focus(), step.message, step.key, step.details);
+                driver.Settle();
+                if (step.message == WM_MOUSEMOVE) {
+                    EXPECT_EQ(::SendMessageW(box.List(), LB_GETCURSEL, 0, 0), 2);
+                }
+            }
             driver.Settle();
             int index = -2;
-            box.dialog.Do([&] { index = box.combo.CurrentIndex(); });
+            bool focused = false;
+            box.dialog.Do([&] {
+                index = box.combo.CurrentIndex();
+                focused = box.dialog.FocusRing().Focused() == &box.combo;
+            });
             EXPECT_EQ(index, row.index);
             EXPECT_EQ(box.dialog.picks.size(), row.picks);
             for (const void* sender : box.dialog.picks) EXPECT_EQ(sender, &box.combo);
             EXPECT_EQ(box.Popup() != nullptr, row.open);
+            EXPECT_NE(focused, row.movesOn);
             EXPECT_TRUE(driver.IsOpen()) << "Esc and Enter close the list only";
         });
     }
@@ -187,8 +210,14 @@ TEST(DropDownList, ClosesOnAPressElsewhereOnDeactivationAndWhenDisabled) {
     box.dialog.Run([&](DialogDriver& driver) {
         driver.Click(kOnCombo);
         ASSERT_NE(box.Popup(), nullptr);
-        driver.Click({300, 300});
-        EXPECT_EQ(box.Popup(), nullptr);
+        driver.Press({100, 130});
+        driver.Release({100, 130});
+        EXPECT_NE(box.Popup(), nullptr) << "a press on the open list, from which the pointer has gone";
+        driver.PointAt({100, 130});
+        driver.Press({300, 300});
+        driver.Release({300, 300});
+        EXPECT_EQ(box.Popup(), nullptr) << "a press elsewhere, from where the pointer has come over the list";
+        driver.PointAt({1000, 1000});
         driver.Click(kOnCombo);
         ASSERT_NE(box.Popup(), nullptr);
         box.dialog.Do([&] { ::SetActiveWindow(driver.Window()); });

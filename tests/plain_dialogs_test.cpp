@@ -154,29 +154,23 @@ TEST(Deblocking, AClosedListLeavesTheFocusAndTheCaretWhereTheyWere) {
     Session session(EffectId::Deblocking, {1, 0, 48, 0, 120, 8, 8});
     session.Run([&](DialogDriver& dialog) {
         const HWND edit = dialog.Child(14);
-        const auto focus = [&dialog] {
-            GUITHREADINFO info{};
-            info.cbSize = sizeof(info);
-            ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
-            return info.hwndFocus;
-        };
         const auto open = [&] {
             dialog.Click({200, 330});
-            ASSERT_TRUE(DialogDriver::WaitFor([&] { return ::GetDlgCtrlID(focus()) == 90; }));
+            ASSERT_TRUE(DialogDriver::WaitFor([&] { return ::GetDlgCtrlID(dialog.Focus()) == 90; }));
         };
         const std::function<void()> ways[] = {
             [&] {
-                ::PostMessageW(focus(), WM_KEYDOWN, VK_DOWN, 1);
-                ::PostMessageW(focus(), WM_KEYDOWN, VK_RETURN, 1);
+                ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_DOWN, 1);
+                ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_RETURN, 1);
             },
-            [&] { ::PostMessageW(focus(), WM_KEYDOWN, VK_ESCAPE, 1); },
+            [&] { ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_ESCAPE, 1); },
             [&] {
                 dialog.Click({200, 330});
             }};
         ::PostMessageW(edit, WM_LBUTTONDOWN, 0, MAKELPARAM(8, 8));
         ::PostMessageW(edit, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
         dialog.Settle();
-        ASSERT_EQ(focus(), edit);
+        ASSERT_EQ(dialog.Focus(), edit);
         ::SendMessageW(edit, EM_SETSEL, 1, 2);
         for (const auto& close : ways) {
             SCOPED_TRACE(&close - ways);
@@ -184,9 +178,13 @@ TEST(Deblocking, AClosedListLeavesTheFocusAndTheCaretWhereTheyWere) {
             close();
             dialog.Settle();
             dialog.Settle();
-            EXPECT_EQ(focus(), edit);
+            EXPECT_EQ(dialog.Focus(), edit);
             EXPECT_EQ(::SendMessageW(edit, EM_GETSEL, 0, 0), MAKELPARAM(1, 2));
         }
+        open();
+        ::PostMessageW(dialog.Focus(), WM_KEYDOWN, VK_TAB, 1);
+        dialog.Settle();
+        EXPECT_EQ(dialog.Focus(), dialog.Child(13)) << "Tab goes on from the list, not from what had the focus before";
     });
 }
 
@@ -199,13 +197,7 @@ TEST(Deblocking, TheThresholdBelongsToTheFourLineAlgorithm) {
         const auto pick = [&](LPARAM keys) {
             dialog.Click({200, 330});
             HWND list = nullptr;
-            ASSERT_TRUE(DialogDriver::WaitFor([&] {
-                GUITHREADINFO info{};
-                info.cbSize = sizeof(info);
-                ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog.Window(), nullptr), &info);
-                list = info.hwndFocus;
-                return ::GetDlgCtrlID(list) == 90;
-            }));
+            ASSERT_TRUE(DialogDriver::WaitFor([&] { return ::GetDlgCtrlID(list = dialog.Focus()) == 90; }));
             ::PostMessageW(list, WM_KEYDOWN, static_cast<WPARAM>(keys), 1);
             ::PostMessageW(list, WM_KEYDOWN, VK_RETURN, 1);
             dialog.Settle();

@@ -101,6 +101,18 @@ void DialogDriver::Mouse(UINT message, POINT at, HWND window, WPARAM buttons) co
     Settle();  // What the message made the dialog post is handled too.
 }
 
+GUITHREADINFO DialogDriver::Thread() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_dialog, nullptr), &info);
+    return info;
+}
+
+HWND DialogDriver::Focus() const {
+    const HWND focus = Thread().hwndFocus;
+    return focus ? focus : m_dialog;
+}
+
 void DialogDriver::Click(POINT at, HWND window) {
     Move(at, window);
     Press(at, window);

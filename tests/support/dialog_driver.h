@@ -13,6 +13,10 @@ public:
 
     HWND Window() const { return m_dialog; }
     HWND Child(int id) const { return ::GetDlgItem(m_dialog, id); }
+    /// What the system knows of the dialog's thread: its focus, its capture.
+    GUITHREADINFO Thread() const;
+    /// The window that has the focus; the dialog's while none has it.
+    HWND Focus() const;
     bool IsOpen() const { return ::IsWindow(m_dialog) != FALSE; }
 
     // Points are in client coordinates of the dialog, or of the child window that is given. The real pointer stays

@@ -21,6 +21,11 @@ public:
     /// Lets the dialog's own thread do something.
     void Do(std::function<void()> action) { SendMessage(kDo, 0, reinterpret_cast<LPARAM>(&action)); }
 
+    /// Lets it begin something that goes on for longer than the call, as a dialog does.
+    void Start(std::function<void()>& action) {
+        ::SendNotifyMessageW(m_hWnd, kDo, 0, reinterpret_cast<LPARAM>(&action));
+    }
+
     std::vector<UINT> commands;      ///< Ids that arrived, without notifications of windows.
     std::vector<UINT> changes;       ///< Ids of edits that changed.
     std::vector<const void*> picks;  ///< Drop-down lists that were picked from.
