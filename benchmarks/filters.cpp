@@ -74,7 +74,7 @@ void MeasureFilters() {
                                 MsPerFrame(effect, AtEnd(effect, &effect_settings::Range::min), scene),
                                 MsPerFrame(effect, AtEnd(effect, &effect_settings::Range::max), scene)};
         const bool isMet = *std::max_element(std::begin(times), std::end(times)) <= kMostMs;
-        std::printf(
-            "%-18s %10.2f %10.2f %10.2f%s\n", effect.name, times[0], times[1], times[2], isMet ? "" : "   too slow");
+        std::printf("%-18s %10.2f %10.2f %10.2f%s\n", effect.name.c_str(), times[0], times[1], times[2],
+                    isMet ? "" : "   too slow");
     }
 }

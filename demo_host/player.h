@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "demo_host/clip.h"
-#include "demo_host/com_object.h"
 #include "demo_host/effects.h"
+#include "demo_host/filters/com_object.h"
 #include "demo_host/paint.h"
 #include "demo_host/processor_list.h"
 #include "demo_host/settings_file.h"

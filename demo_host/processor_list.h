@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "demo_host/com_object.h"
+#include "demo_host/filters/com_object.h"
 #include "demo_host/filters/filter.h"
 #include "effect_settings/media_host.h"
 

@@ -24,6 +24,11 @@ struct Gamma : PreviewFilter<IEffectGammaCorrection> {
 int main() {
     Gamma filter;
     PreviewHost host(filter);
+    const VideoSize video = {640, 480};
+    const FrameSize frame = {640, 480};
     GammaCorrectionSettings gamma;  // The effect's defaults; after OK what the user has set.
-    return ShowSettings(&host, {640, 480}, {640, 480}, gamma) == Result::NotCreated ? 1 : 0;
+    const Result result = ShowSettings(&host, video, frame, gamma);
+    // The dialog has taken the filter out of the chain. After OK it goes back, with what the user has set.
+    if (result == Result::Accepted) host.Keep(gamma, video, frame);
+    return result == Result::NotCreated ? 1 : 0;
 }

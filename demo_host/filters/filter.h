@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "demo_host/com_object.h"
+#include "demo_host/filters/com_object.h"
 #include "demo_host/filters/frame.h"
 #include "effect_settings/effect_settings.h"
 

@@ -5,8 +5,7 @@
 
 #include <windows.h>
 
-#include "effect_settings/effect_filters.h"
-#include "effect_settings/effect_settings.h"
+#include "effect_settings/apply_settings.h"
 #include "effect_settings/media_host.h"
 
 // How it is used
@@ -17,7 +16,7 @@
 //   MyFilter filter;  // struct MyFilter : PreviewFilter<IEffectWave>
 //   PreviewHost host(filter);
 //   WaveSettings wave;
-//   ShowSettings(&host, {1280, 720}, {1280, 720}, wave);
+//   if (ShowSettings(&host, video, frame, wave) == Result::Accepted) host.Keep(wave, video, frame);
 //
 // All of it happens on the thread that shows the dialog. The objects are yours and are counted but never deleted: they have
 // to outlive the call.
@@ -143,7 +142,18 @@ public:
     }
     PreviewHost(const PreviewHost&) = delete;
     PreviewHost& operator=(const PreviewHost&) = delete;
-    ~PreviewHost() { Stop(); }
+    ~PreviewHost() {
+        Stop();
+        m_active.RemoveAt(0);
+    }
+
+    /// After OK: puts the filter back into the chain, out of which the dialog took it, and tells it the record's values.
+    /// @return Whether the filter has the property interface of the record's effect.
+    template <typename Record>
+    bool Keep(const Record& record, VideoSize video, FrameSize frame) {
+        if (m_active.IsEmpty()) m_active.Add(m_filter, 0);
+        return ApplySettings(m_filter, record, video, frame);
+    }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
         const bool known = iid == IID_IDispatch || iid == IID_IUnknown;
