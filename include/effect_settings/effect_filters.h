@@ -17,8 +17,8 @@
 // one more push with all values, so a setter must be cheap and may be called with the value that it
 // already has. When the dialog closes, the filter leaves the chain and the interface is released.
 //
-// A push calls its setters one after the other, in the order that each interface names; apply_settings.h
-// has each push as code. The last of them ends the push: a filter that takes its values over together does so there. Where that is not
+// A push calls its setters one after the other: apply_settings.h has each effect's as a list of calls
+// in their order. The last of them ends the push: a filter that takes its values over together does so there. Where that is not
 // always the same setter, the interface says how to tell the end. A push is cut short when the
 // dialog is destroyed meanwhile; the next one begins with the first setter all the same. "Set as
 // default" is one push, or up to five where the dialog has edits: filling each of the four is a
@@ -203,19 +203,15 @@ struct IEffectArea : IEffectAreaEdges {
 };
 
 /// Auto Contrast (EffectId 1), IID_IEffectAutoContrast.
-/// One push: put_Enable.
 struct IEffectAutoContrast : IEffectSwitch {};
 
 /// Auto Intensity (EffectId 2), IID_IEffectAutoIntensity.
-/// One push: put_Enable.
 struct IEffectAutoIntensity : IEffectSwitch {};
 
 /// Auto Level (EffectId 3), IID_IEffectAutoLevel.
-/// One push: put_Enable.
 struct IEffectAutoLevel : IEffectSwitch {};
 
 /// Brightness (EffectId 4), IID_IEffectBrightness.
-/// One push: put_Enable, put_Threshold, put_Brightness, put_FirstFrameReference.
 struct IEffectBrightness : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -242,7 +238,6 @@ struct ColorParams {
 static_assert(sizeof(ColorParams) == 48, "ColorParams");
 
 /// Color (EffectId 5), IID_IEffectColor.
-/// One push: SetColorParams, SetAreaParams.
 struct IEffectColor : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -255,8 +250,6 @@ struct IEffectColor : IUnknown {
 };
 
 /// Deblocking (EffectId 6), IID_IEffectDeblocking.
-/// One push: put_Enable, put_Algorithm, put_BlockOffsetX, put_BlockOffsetY, put_BlockWidth, put_BlockHeight,
-/// put_EdgeThreshold.
 struct IEffectDeblocking : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. 0 filters two lines at a block's edge, 1 four; -1 while a host's record names no such algorithm.
@@ -279,7 +272,6 @@ struct IEffectDeblocking : IEffectSwitch {
 };
 
 /// Edge Enhance (EffectId 7), IID_IEffectEdgeEnhance.
-/// One push: put_Enable, put_EnableMultiplier, put_Multiplier.
 struct IEffectEdgeEnhance : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     EFFECT_SETTINGS_RESERVED_SLOT(8)
@@ -301,11 +293,7 @@ struct IEffectEdgeEnhance : IEffectDispatch {
 };
 
 /// Aging (EffectId 8), IID_IEffectAging. Its area switch is not where the others have theirs.
-/// One push: put_Enable, put_AreaEnable, area edges, put_OldColor, put_Channel, put_Scratches, put_MaxScratches,
-/// put_ScratchHeight, put_Dust, put_RandomDust, put_DustRandomDensity, put_AlwaysAddDust, put_DustDensity,
-/// put_DustColorMode, put_DustColor, put_Pits, put_RandomPits, put_PitsRandomDensity, put_AlwaysAddPits,
-/// put_PitsDensity, put_PitsColorMode, put_PitsColor. Channel and colour modes are left out while none is selected
-/// (a host's record named none).
+/// Channel and colour modes are left out while none is selected (a host's record named none).
 struct IEffectAging : IEffectAreaEdges {
     /// Slot 18. Where the old colours show: 1 all, 2 to 8 (one bit each) channels 1 to 3, 16 luminance.
     virtual HRESULT STDMETHODCALLTYPE put_Channel(LONG channel) = 0;
@@ -369,8 +357,6 @@ struct IEffectAging : IEffectAreaEdges {
 };
 
 /// Bump Map (EffectId 9), IID_IEffectBumpMap.
-/// One push: put_Enable, put_Invert, put_LightAngle, put_Elevation, put_Depth, put_Ambient, put_XOffset, put_YOffset,
-/// area edges, put_AreaEnable.
 struct IEffectBumpMap : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Direction of the light, 0 to 360 degrees.
@@ -400,8 +386,7 @@ struct IEffectBumpMap : IEffectArea {
 };
 
 /// Dizzy (EffectId 10), IID_IEffectDizzy.
-/// One push: put_Enable, put_ZoomLevel, put_RotationSpeed, put_AreaEnable, area edges, which without a usable
-/// rectangle are 0, 0, 1, 1 in source pixels, converted and in the usual order.
+/// Without a usable rectangle the edges are 0, 0, 1, 1 in source pixels, converted and in the usual order.
 struct IEffectDizzy : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Strength of the zoom, 0 to 1000.
@@ -412,8 +397,6 @@ struct IEffectDizzy : IEffectArea {
 };
 
 /// Fire (EffectId 11), IID_IEffectFire.
-/// One push: put_Enable, put_GradientLevel, put_ColorsOffset, put_Decay, put_Threshold, put_FlameDirection,
-/// put_EntireObject, put_ShowBackground, put_NoReference, put_FirstFrameReference.
 struct IEffectFire : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Any of the FlameDirection bits (effect_settings.h) and no others: 0x001 north, 0x002 south, 0x004 east,
@@ -450,8 +433,7 @@ struct IEffectFire : IEffectSwitch {
 };
 
 /// Glass Tile (EffectId 12), IID_IEffectGlassTile.
-/// One push: put_Enable, put_TileWidth, put_TileHeight, put_Refraction, put_AreaEnable (left out without a usable
-/// rectangle), area edges. The fourth edge after put_Enable ends it.
+/// put_AreaEnable is left out without a usable rectangle. The fourth edge after put_Enable ends a push.
 struct IEffectGlassTile : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. In pixels, 2 to 50.
@@ -465,7 +447,6 @@ struct IEffectGlassTile : IEffectArea {
 };
 
 /// Hologram (EffectId 13), IID_IEffectHologram.
-/// One push: put_Enable, put_Threshold, put_Hue, put_Noise, put_LineNoise, put_NoReference, put_FirstFrameReference.
 struct IEffectHologram : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Colour of the effect in degrees, 0 to 360.
@@ -489,8 +470,7 @@ struct IEffectHologram : IEffectSwitch {
 };
 
 /// Lens (EffectId 14), IID_IEffectLens.
-/// One push: put_Enable, put_Refraction, put_KeepSurroundings, put_AreaEnable, area edges. The fourth edge after
-/// put_Enable ends it.
+/// The fourth edge after put_Enable ends a push.
 struct IEffectLens : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. How strongly the lens bends the light, 10 to 160.
@@ -501,7 +481,6 @@ struct IEffectLens : IEffectArea {
 };
 
 /// Lightning (EffectId 15), IID_IEffectLightning.
-/// One push: put_Enable, put_Threshold, put_NoReference, put_FirstFrameReference.
 struct IEffectLightning : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -516,8 +495,7 @@ struct IEffectLightning : IEffectSwitch {
 };
 
 /// Maze (EffectId 16), IID_IEffectMaze.
-/// One push: put_Enable, put_Divisions, put_BreakKind, put_AreaEnable (left out without a usable rectangle), area
-/// edges. The fourth edge after put_Enable ends it.
+/// put_AreaEnable is left out without a usable rectangle. The fourth edge after put_Enable ends a push.
 struct IEffectMaze : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Number of divisions of the maze, 0 to 64.
@@ -528,7 +506,6 @@ struct IEffectMaze : IEffectArea {
 };
 
 /// Motion Blur (EffectId 17), IID_IEffectMotionBlur.
-/// One push: put_Enable, put_Threshold, put_Hue, put_IntervalFrames.
 struct IEffectMotionBlur : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Colour of the effect in degrees, 0 to 360.
@@ -542,8 +519,6 @@ struct IEffectMotionBlur : IEffectSwitch {
 };
 
 /// Motion Emboss (EffectId 18), IID_IEffectMotionEmboss.
-/// One push: put_Enable, put_LightAngle, put_Elevation, put_Depth, put_Threshold, put_BumpMap, put_NoReference,
-/// put_FirstFrameReference.
 struct IEffectMotionEmboss : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     EFFECT_SETTINGS_RESERVED_SLOT(10)
@@ -570,7 +545,6 @@ struct IEffectMotionEmboss : IEffectSwitch {
 };
 
 /// Motion Mosaic (EffectId 19), IID_IEffectMotionMosaic.
-/// One push: put_Enable, put_Threshold, put_SquareSize, put_NoReference, put_FirstFrameReference.
 struct IEffectMotionMosaic : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Side of a square in pixels, 1 to 64.
@@ -588,8 +562,7 @@ struct IEffectMotionMosaic : IEffectSwitch {
 };
 
 /// Motion Scan (EffectId 20), IID_IEffectMotionScan.
-/// One push: put_Enable, put_ShowScanLine, put_LineIncrement, put_AreaEnable, area edges. The fourth edge after
-/// put_Enable ends it.
+/// The fourth edge after put_Enable ends a push.
 struct IEffectMotionScan : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Lines of the source video that the scan moves on per frame, 1 to the video's height less 1, but at
@@ -601,7 +574,6 @@ struct IEffectMotionScan : IEffectArea {
 };
 
 /// Particles (EffectId 21), IID_IEffectParticles.
-/// One push: put_Enable, put_Distortion.
 struct IEffectParticles : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. How far objects fall apart, 1 to 6.
@@ -609,8 +581,7 @@ struct IEffectParticles : IEffectSwitch {
 };
 
 /// Rain (EffectId 22), IID_IEffectRain.
-/// One push: put_Enable, put_CustomRainDrops, put_WaveSpeed, put_Density, put_AreaEnable, area edges. The fourth edge
-/// after put_Enable ends it.
+/// The fourth edge after put_Enable ends a push.
 struct IEffectRain : IEffectArea {
     EFFECT_SETTINGS_RESERVED_SLOT(19)
     /// Slot 20. Speed of the waves, 1 to 10.
@@ -624,7 +595,6 @@ struct IEffectRain : IEffectArea {
 };
 
 /// Streak (EffectId 23), IID_IEffectStreak.
-/// One push: put_Enable, put_HeavyMode.
 struct IEffectStreak : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. VARIANT_TRUE shows an object in more than one place.
@@ -632,7 +602,6 @@ struct IEffectStreak : IEffectSwitch {
 };
 
 /// Wave (EffectId 24), IID_IEffectWave.
-/// One push: put_Enable, put_Threshold, put_WaveSpeed.
 struct IEffectWave : IEffectSwitch {
     EFFECT_SETTINGS_RESERVED_SLOT(9)
     /// Slot 10. Speed of the waves, 1 to 10.
@@ -658,7 +627,6 @@ struct EmbossParams {
 static_assert(sizeof(EmbossParams) == 40, "EmbossParams");
 
 /// Emboss (EffectId 25), IID_IEffectEmboss.
-/// One push: SetEmbossParams, SetAreaParams.
 struct IEffectEmboss : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -680,7 +648,6 @@ struct MosaicParams {
 static_assert(sizeof(MosaicParams) == 16, "MosaicParams");
 
 /// Mosaic (EffectId 27), IID_IEffectMosaic.
-/// One push: SetMosaicParams, SetAreaParams.
 struct IEffectMosaic : IUnknown {
     EFFECT_SETTINGS_RESERVED_SLOT(3)
     EFFECT_SETTINGS_RESERVED_SLOT(4)
@@ -693,7 +660,6 @@ struct IEffectMosaic : IUnknown {
 };
 
 /// Unsharp Mask (EffectId 28), IID_IEffectUnsharpMask.
-/// One push: put_Enable, put_Amount, put_Radius, put_Threshold.
 struct IEffectUnsharpMask : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     EFFECT_SETTINGS_RESERVED_SLOT(8)
@@ -718,8 +684,8 @@ struct IEffectUnsharpMask : IEffectDispatch {
 };
 
 /// Video Rotation (EffectId 29), IID_IEffectVideoRotation.
-/// One push: put_Flip, put_Reverse, put_Angle; while the effect is off put_Angle(0), put_Flip and put_Reverse with
-/// VARIANT_FALSE. One that begins with put_Flip ends with put_Angle, one that begins with put_Angle with put_Reverse.
+/// A push that begins with put_Flip ends with put_Angle; one that begins with put_Angle, while the effect is off, with
+/// put_Reverse.
 struct IEffectVideoRotation : IEffectDispatch {
     EFFECT_SETTINGS_RESERVED_SLOT(7)
     /// Slot 8. VARIANT_TRUE reverses the picture.
