@@ -17,11 +17,11 @@
 // one more push with all values, so a setter must be cheap and may be called with the value that it
 // already has. When the dialog closes, the filter leaves the chain and the interface is released.
 //
-// A push calls its setters one after the other: apply_settings.h has each effect's as a list of calls
-// in their order. The last of them ends the push: a filter that takes its values over together does so there. Where that is not
-// always the same setter, the interface says how to tell the end. A push is cut short when the
-// dialog is destroyed meanwhile; the next one begins with the first setter all the same. "Set as
-// default" is one push, or up to five where the dialog has edits: filling each of the four is a
+// A push calls its setters one after the other: apply_settings.h has each effect's as a list of calls in
+// their order. The last of them ends the push: a filter that takes its values over together does so
+// there. Where that is not always the same setter, the interface says how to tell the end. A push is cut
+// short when the dialog is destroyed meanwhile; the next one begins with the first setter all the same.
+// "Set as default" is one push, or up to five where the dialog has edits: filling each of the four is a
 // push of what is set so far, and the last one has all the defaults. The Auto effects send none.
 //
 // "Area edges" stands for four setters: right, bottom, left, top. When the user's rectangle is not
