@@ -122,16 +122,18 @@ TEST(AllDialogs, ApplySettingsSendsWhatAnOpenedDialogSendsFirst) {
         for (const Opening& opening : row.openings) {
             EXPECT_EQ(Applied(id, opening.record, {720, 480}, {360, 240}), opening.push);
         }
-        for (const auto& [video, frame] : sizes) {
+        for (const auto& size : sizes) {
             Record record = row.effect.defaults;
             for (std::int32_t& field : record) {
                 const std::int32_t hostile[] = {
                     INT_MIN, -719, -1, 0, 1, 2, 90, 720, 0x1000007, INT_MAX, static_cast<std::int32_t>(random())};
                 field = hostile[random() % std::size(hostile)];
             }
-            SCOPED_TRACE(testing::PrintToString(record) + " of " + std::to_string(video.cx));
-            Session session(id, record, video, frame);
-            session.Run([&](DialogDriver&) { EXPECT_EQ(session.Pushes(), Applied(id, record, video, frame)); });
+            SCOPED_TRACE(testing::PrintToString(record) + " of " + std::to_string(size.video.cx));
+            Session session(id, record, size.video, size.frame);
+            session.Run([&](DialogDriver&) {
+                EXPECT_EQ(session.Pushes(), Applied(id, record, size.video, size.frame));
+            });
         }
         EXPECT_EQ(Applied(id, row.effect.defaults, {}, {}, {.filterHasInterface = false}), "");
     }
