@@ -137,15 +137,21 @@ TEST(Accessibility, SlidersAndEditsAreNamedByTheirLabels) {
         EffectId effect;
         Record record;
         Names names;
-    } rows[] = {{EffectId::Deblocking,
-                 {1, 1, 63, 1, 2, 3, 4},
-                 {L"Deblocking Algorithm:", L"X", L"Y", L"Width", L"Height", L"Edge Threshold(Preserve to Smooth):"}},
-                {EffectId::Aging,
-                 Record(25, 1),
-                 {L"Maximum number of scratches(0 - 100):", L"Scratch height(1 - 1600):", L"Left", L"Top", L"Right",
-                  L"Bottom", L"Dust density(0 - 100):", L"Pits density(0 - 100):"}}};
+        SIZE video = {720, 480};
+    } rows[] = {
+        {EffectId::MotionScan,
+         {1, 1, 1, 0, 0, 0, 1, 1},
+         {L"Line Increment(1 - 0):", L"Left", L"Top", L"Right", L"Bottom"},
+         {720, 1}},
+        {EffectId::Deblocking,
+         {1, 1, 63, 1, 2, 3, 4},
+         {L"Deblocking Algorithm:", L"X", L"Y", L"Width", L"Height", L"Edge Threshold(Preserve to Smooth):"}},
+        {EffectId::Aging,
+         Record(25, 1),
+         {L"Maximum number of scratches(0 - 100):", L"Scratch height(1 - 1600):", L"Left", L"Top", L"Right", L"Bottom",
+          L"Dust density(0 - 100):", L"Pits density(0 - 100):"}}};
     for (const auto& row : rows) {
-        Session session(row.effect, row.record);
+        Session session(row.effect, row.record, row.video);
         session.Run([&](DialogDriver& dialog) {
             const Apartment own(COINIT_MULTITHREADED);
             const AccessibleClient client(dialog.Window());
@@ -201,6 +207,35 @@ TEST(Accessibility, ActionsWorkAndChangesAreAnnounced) {
         EXPECT_TRUE(FAILED(client.Act(enable)));
     });
     EXPECT_EQ(session.record, (Record{1, 333}));
+}
+
+TEST(Accessibility, WhatStaysDisabledIsNotAnnounced) {
+    const struct {
+        EffectId effect;
+        Record record;
+        const wchar_t* control;  ///< Needs more than "Enable".
+    } rows[] = {{EffectId::Deblocking, {1, 0, 48, 0, 0, 8, 8}, L"Edge Threshold(Preserve to Smooth):"},
+                {EffectId::EdgeEnhance, {1, 0, 100}, L"Enable Multiplier (50 - 1000)"},
+                {EffectId::Lightning, {1, 50, 1, 1}, L"First frame as reference"},
+                {EffectId::Lens, {1, 20, 1, 0, 0, 0, 1, 1}, L"Left"}};
+    for (const auto& row : rows) {
+        Session session(row.effect, row.record);
+        session.Run([&](DialogDriver& dialog) {
+            SCOPED_TRACE(testing::Message() << "effect " << static_cast<int>(row.effect));
+            const Apartment own(COINIT_MULTITHREADED);
+            const AccessibleClient client(dialog.Window());
+            long control = 0;  // The last of its name: a box may name the slider below it.
+            for (long child = 1; child <= client.Count(); ++child) {
+                if (client.Name(child) == row.control) control = child;
+            }
+            ASSERT_NE(control, 0);
+            dialog.Click({40, 305});
+            const Announcements announcements(dialog);
+            dialog.Click({40, 305});
+            EXPECT_FALSE(Was(announcements.Take(), {EVENT_OBJECT_STATECHANGE, control}));
+            EXPECT_NE(client.State(control) & STATE_SYSTEM_UNAVAILABLE, 0);
+        });
+    }
 }
 
 TEST(Accessibility, OnlyWhatIsToBeSeenAndEnabledIsPressed) {

@@ -117,6 +117,7 @@ TEST(Fire, ThereIsAlwaysADirectionAfterAClick) {
 TEST(Deblocking, EveryKeystrokeIsPushedScaledAndSavedAsTyped) {
     Session session(EffectId::Deblocking, {1, 1, 48, 7, 0, 8, 8});
     session.Run([&](DialogDriver& dialog) {
+        EXPECT_EQ(::GetDlgCtrlID(dialog.Focus()), 15) << "the width has the focus first";
         EXPECT_NE(session.Pushes().find("put_BlockOffsetX(3)"), std::string::npos) << "7 of 720 is 3 of 360";
         const HWND width = dialog.Child(15);
         ::SendMessageW(width, EM_SETSEL, 0, -1);
