@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "dialogs/base/effect_settings_dlg.h"
@@ -115,17 +116,20 @@ private:
         const std::int32_t* field;
     };
 
+    using Owned = std::unique_ptr<void, void (*)(void*)>;
+
     /// Makes a control that lives as long as the dialog.
     template <typename Control>
     Control& Own() {
-        auto made = std::make_shared<Control>();
-        m_owned.push_back(made);
-        return *made;
+        auto* const control = new Control;
+        Owned owned(control, [](void* made) { delete static_cast<Control*>(made); });
+        m_owned.push_back(std::move(owned));
+        return *control;
     }
     const BoundField* Find(const std::int32_t& field) const;
     bool AreMet(const Needs& needs) const;
 
-    std::vector<std::shared_ptr<void>> m_owned;
+    std::vector<Owned> m_owned;
     std::vector<BoundField> m_fields;
     std::vector<Rule> m_rules;
     std::vector<HeardField> m_heardFields;
